@@ -1,0 +1,199 @@
+// Field decoders: each turns the characters of one field into one value.
+#pragma once
+
+#include "input/igsIOError.h"
+#include "support/coNames.h"
+#include "support/utString.h"
+
+// A decoder has two ways of working. The fast way converts the text at a pointer into the line
+// in one call and says how many characters it used; nearly every field is a clean number and
+// goes this way. The slow way takes the field one character at a time, so that it can cross a
+// line end, pass over blanks and say what was unusual about the field. The engine tries the
+// fast way first and falls back to the slow way from the same start.
+class igsDecoder {
+ public:
+  explicit igsDecoder(int fast_available);
+  virtual ~igsDecoder();
+  igsDecoder(igsDecoder const&) = delete;
+  igsDecoder& operator=(igsDecoder const&) = delete;
+
+  // Decodes the field at the text; returns the number of characters used.
+  virtual int decode_fast(char const*) { return 0; }
+  // Takes one character of the field. cont becomes 0 when the decoder wants no more;
+  // check_delimiter says whether the next character may end the field as a delimiter.
+  virtual void accept_character(char c, int& cont, int& check_delimiter) = 0;
+  // Makes the value from the characters taken.
+  virtual void decode() = 0;
+  virtual void reset_fast_decode() = 0;
+  virtual void reset_slow_decode() = 0;
+
+  int fast_decode_avail() const { return m_fast_available; }
+  // Appends the recorded codes and forgets them.
+  void collect_errors(igsIOErrorcoDynArr& errors);
+
+ protected:
+  // Appends one character to the text; 0 if there was no room.
+  int add_to_buffer(char c) { return m_text.append(c); }
+  char const* buffer() const { return m_text.data(); }
+  char* buffer() { return m_text.data(); }
+  void reset() { m_text.shrink(0); }
+  void reset_buffer() { m_text.shrink(0); }
+  void set_error(igsIOErrorCode code) { igs_add_io_error(m_errors, code); }
+  // A field that used any characters held a value.
+  void check_for_default(char const*, int length) {
+    if (length > 0) set_error(igsIOValuePresent);
+  }
+  utString decode_string(char const* text) const;
+  // Ends the text with a NUL so that it can be converted; 0 if there was no room.
+  int terminate_text() { return add_to_buffer('\0'); }
+
+ private:
+  int m_fast_available;
+  charcoDynArr m_text;
+  igsIOErrorcoDynArr m_errors;
+};
+
+// The slow way of every decoder: a state machine over the characters of a field. Newline
+// means the byte 10 that the checker put at a data end. The number states join the characters
+// of a value across blanks and line ends and record that they did:
+//
+//   state            newline               blank                  other character
+//   start            stay                  stay                   value present; store
+//   storing          split line            embedded blank         store it
+//   embedded blank   embedded split        stay                   embedded blank; store
+//   split line       stay                  embedded split         split value; store
+//   embedded split   stay                  stay                   embedded blank, split value;
+//                                                                 store
+//
+// The string state takes the body of a text field. The store steps are the decoder's own.
+class igsStateDecoder : public igsDecoder {
+ public:
+  void accept_character(char c, int& cont, int& check_delimiter) override;
+  void decode() override {
+    if (m_active) active_decode();
+  }
+
+ protected:
+  enum State {
+    start_state,
+    storing_state,
+    embedded_blank_state,
+    split_line_state,
+    embedded_split_state,
+    storing_string_state,
+    frozen_state
+  };
+
+  igsStateDecoder(int fast_available, State storing)
+      : igsDecoder(fast_available), m_storing(storing) {}
+  void use_character(char c);
+  // The slow way starts over; the fast way and a finished slow way leave the machine stopped.
+  void start() {
+    m_state = start_state;
+    m_active = 1;
+    reset_buffer();
+  }
+  void stop() {
+    m_state = frozen_state;
+    m_active = 0;
+  }
+  void passive_decode() {}
+  // The store step of the storing state and of the string state.
+  virtual void store_character(char c) { add_to_buffer(c); }
+  virtual void string_character(char) {}
+  virtual void active_decode() = 0;
+
+  State m_state = frozen_state;
+  int m_active = 0;
+
+ private:
+  State m_storing;
+};
+
+// Integer fields.
+class igsIntDecoder : public igsStateDecoder {
+ public:
+  igsIntDecoder() : igsStateDecoder(1, storing_state) {}
+  int decode_fast(char const* text) override;
+  void reset_fast_decode() override { m_value = 0; }
+  void reset_slow_decode() override {
+    start();
+    m_value = 0;
+  }
+  int decoded_value() const { return m_value; }
+
+ protected:
+  void active_decode() override;
+
+ private:
+  int m_value = 0;
+};
+
+// Real fields; a D exponent counts as an E.
+class igsDoubleDecoder : public igsStateDecoder {
+ public:
+  igsDoubleDecoder() : igsStateDecoder(1, storing_state) {}
+  int decode_fast(char const* text) override;
+  void reset_fast_decode() override { m_value = 0.0; }
+  void reset_slow_decode() override {
+    start();
+    m_value = 0.0;
+  }
+  double decoded_value() const { return m_value; }
+
+ protected:
+  void store_character(char c) override { add_to_buffer(c == 'D' || c == 'd' ? 'E' : c); }
+  void active_decode() override;
+
+ private:
+  double m_value = 0.0;
+};
+
+// Fixed-width text fields: the columns as they stand, blanks included.
+class igsStrDecoder : public igsStateDecoder {
+ public:
+  igsStrDecoder() : igsStateDecoder(1, storing_string_state) {}
+  int decode_fast(char const* text) override;
+  void reset_fast_decode() override { m_value = utString(); }
+  void reset_slow_decode() override {
+    start();
+    m_value = utString();
+  }
+  utString const& decoded_value() const { return m_value; }
+
+ protected:
+  void string_character(char c) override;
+  void active_decode() override;
+
+ private:
+  utString m_value;
+};
+
+// Hollerith strings, "nH" and n characters. There is no fast way. A body shorter than declared
+// takes in the delimiters behind it; a longer one loses doubled blanks first, then its tail.
+class igsHolerithDecoder : public igsStateDecoder {
+ public:
+  igsHolerithDecoder() : igsStateDecoder(0, storing_state) {}
+  void accept_character(char c, int& cont, int& check_delimiter) override;
+  void reset_fast_decode() override;
+  void reset_slow_decode() override {
+    start();
+    reset_fast_decode();
+  }
+  utString const& decoded_value() const { return m_value; }
+  // Whether body characters are still due.
+  int char_expected() const { return m_count < m_length; }
+
+ protected:
+  void store_character(char c) override;
+  void string_character(char c) override;
+  void active_decode() override;
+
+ private:
+  void decode_holerith_length();
+  utString truncate_string();
+
+  utString m_value;
+  int m_length = 0;
+  int m_count = 0;
+};

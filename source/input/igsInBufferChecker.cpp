@@ -1,0 +1,211 @@
+#include "input/igsInBufferChecker.h"
+
+#include "input/igsInBuffer.h"
+#include "input/igsNumberText.h"
+
+namespace {
+
+constexpr int record_width = 80;
+constexpr int field_width = 7;       // sequence number and back pointer
+constexpr int backpointer_at = 65;   // first column of the back pointer in an 80-column line
+constexpr int separator_column = 64; // the blank in front of the back pointer
+constexpr char data_end_mark = '\n';
+
+} // namespace
+
+igsInBufferChecker::igsInBufferChecker() = default;
+igsInBufferChecker::~igsInBufferChecker() = default;
+
+int igsInBufferChecker::check(igsInBuffer& buffer, int& data_end) {
+  igsFileSection section = igsSectionNone;
+  int line = 0;
+  int backpointer = 0;
+  cache_buffer_attribs(buffer);
+  data_end = 0;
+  int syntax = check_syntax(section, line, backpointer);
+  int semantics = check_semantics(section, line, backpointer);
+  m_section = section;
+  m_line_number = line;
+  m_backpointer = backpointer;
+  if (section != igsSectionNone) {
+    ++m_line_counts[section];
+    data_end = this->data_end(section);
+  }
+  return syntax && semantics;
+}
+
+// Where the data of a record ends. Global and Parameter lines get a newline there, so that a
+// decoder walking over the data sees the line end.
+int igsInBufferChecker::data_end(igsFileSection section) {
+  int letter = m_size - 1 - field_width;
+  switch (section) {
+  case igsSectionGlobal:
+    m_text[letter] = data_end_mark;
+    return letter + 1;
+  case igsSectionParameter: {
+    int end = separator_column;
+    if (m_size != record_width) {
+      end = letter;
+      for (int step = 0; step < 8 && end > 0; ++step)
+        if (m_text[--end] == ' ') break;
+    }
+    m_text[end] = data_end_mark;
+    return end;
+  }
+  case igsSectionStart:
+  case igsSectionDirectory:
+  case igsSectionTerminate:
+    return letter;
+  case igsSectionNone:
+    break;
+  }
+  return 0;
+}
+
+void igsInBufferChecker::cache_buffer_attribs(igsInBuffer& buffer) {
+  charcoDynArr& line = buffer.buffer();
+  m_text = line.data();
+  m_size = line.size();
+}
+
+int igsInBufferChecker::check_syntax(igsFileSection& section, int& line, int& backpointer) {
+  int count = 0;
+  count_bools(check_section(section), count);
+  count_bools(check_line_number(line), count);
+  count_bools(check_16bit_overflow(line), count);
+  count_bools(check_backpointer(section, backpointer), count);
+  count_bools(check_16bit_overflow(backpointer), count);
+  count_bools(check_separator_column(section), count);
+  return count == 6;
+}
+
+int igsInBufferChecker::check_semantics(igsFileSection section, int& line, int backpointer) {
+  int count = 0;
+  count_bools(check_line_number_sequence(section, line), count);
+  count_bools(check_section_sequence(section), count);
+  count_bools(check_backpointer_sequence(section, backpointer), count);
+  return count == 3;
+}
+
+// A line too short to hold a section letter has none.
+int igsInBufferChecker::check_section(igsFileSection& section) {
+  int letter = m_size - 1 - field_width;
+  section = letter >= 0 ? convert_char_to_section(m_text[letter]) : igsSectionNone;
+  if (section != igsSectionNone) return 1;
+  set_error(igsIOBadSectionLetter);
+  return 0;
+}
+
+int igsInBufferChecker::check_line_number(int& line) {
+  int start = m_size - field_width;
+  if (start < 0) {
+    set_error(igsIOBadLineNumber);
+    return 1;
+  }
+  char const* end = nullptr;
+  line = igs_parse_int(m_text + start, end);
+  if (end != m_text + start + field_width) set_error(igsIOBadLineNumber);
+  return 1;
+}
+
+// A number that a 16-bit writer made negative is read back as the unsigned value.
+int igsInBufferChecker::check_16bit_overflow(int& value) {
+  if (value < 0) value += 65536;
+  return value >= 0;
+}
+
+int igsInBufferChecker::check_backpointer(igsFileSection section, int& value) {
+  if (section != igsSectionParameter) return 1;
+  char const* end = nullptr;
+  if (m_size == record_width) {
+    value = igs_parse_int(m_text + backpointer_at, end);
+    if (end == m_text + backpointer_at + field_width) return 1;
+    set_error(igsIOBadBackpointer);
+    return 0;
+  }
+  // A line of another width: the back pointer stands behind the last blank in front of the
+  // section letter.
+  int letter = m_size - 1 - field_width;
+  for (int i = letter - 1; i >= 0 && i >= letter - 10; --i) {
+    if (m_text[i] == ' ') {
+      value = igs_parse_int(m_text + i + 1, end);
+      return 1;
+    }
+  }
+  return 0;
+}
+
+// Column 65 of a Parameter line separates the data from the back pointer.
+int igsInBufferChecker::check_separator_column(igsFileSection section) {
+  if (section == igsSectionParameter && m_size > separator_column &&
+      m_text[separator_column] != ' ')
+    m_text[separator_column] = ' ';
+  return 1;
+}
+
+// Within a section the number must run on by one; a wrong one is replaced, so that positions
+// stay right. A new section must start at 1.
+int igsInBufferChecker::check_line_number_sequence(igsFileSection section, int& line) {
+  int expected = 1;
+  if (section == m_section) {
+    expected = m_line_number + 1;
+    if (line != expected)
+      set_error(section == igsSectionStart ? igsIOStartLineSequence : igsIOLineSequence);
+    line = expected;
+    return 1;
+  }
+  if (line != expected)
+    set_error(section == igsSectionStart ? igsIOStartLineSequence : igsIOLineSequence);
+  return 1;
+}
+
+int igsInBufferChecker::check_section_sequence(igsFileSection section) {
+  if (section == m_section) return 1;
+  set_error(igsIOSectionEnd);
+  return 0;
+}
+
+int igsInBufferChecker::check_backpointer_sequence(igsFileSection section, int value) {
+  if (section != igsSectionParameter || m_section != igsSectionParameter || value == m_backpointer)
+    return 1;
+  set_error(igsIOEntityEnd);
+  return 0;
+}
+
+igsFileSection igsInBufferChecker::convert_char_to_section(char c) {
+  switch (c) {
+  case 'S':
+    return igsSectionStart;
+  case 'G':
+    return igsSectionGlobal;
+  case 'D':
+    return igsSectionDirectory;
+  case 'P':
+    return igsSectionParameter;
+  case 'T':
+    return igsSectionTerminate;
+  default:
+    return igsSectionNone;
+  }
+}
+
+int igsInBufferChecker::num_lines(igsFileSection section) const {
+  if (section < igsSectionStart || section >= igsSectionNone) return 0;
+  return m_line_counts[section];
+}
+
+void igsInBufferChecker::set_error(igsIOErrorCode code) {
+  if (code == igsIOBadBackpointer || code == igsIOBadSectionLetter || code == 11) m_fatal = 1;
+  igs_add_io_error(m_errors, code);
+}
+
+void igsInBufferChecker::collect_errors(igsIOErrorcoDynArr& errors) {
+  for (igsIOError const& e : m_errors) errors.append(e);
+  if (!m_fatal) m_errors.shrink(0);
+}
+
+int igsInBufferChecker::reset() {
+  if (m_fatal) return 0;
+  m_errors.shrink(0);
+  return 1;
+}

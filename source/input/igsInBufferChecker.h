@@ -1,0 +1,60 @@
+// Checks the section letter, line number and back pointer of each record.
+#pragma once
+
+#include "input/igsIOError.h"
+#include "support/coNames.h"
+
+class igsInBuffer;
+
+// Reads the section letter, the sequence number and, in the Parameter section, the back
+// pointer of each record; compares them with the previous record's; records what is wrong;
+// and marks where the data of the record ends. A record of another section or of another
+// entity fails the check just as a damaged one does, which is how readers learn that they
+// have reached the end of what they read. Positions are counted from the end of the line,
+// so that a record wider than 80 columns is still understood.
+class igsInBufferChecker {
+ public:
+  igsInBufferChecker();
+  ~igsInBufferChecker();
+
+  // Checks the buffer's line and gives the number of data columns; may write a newline
+  // (byte 10) at the data end. Returns 1 if the line is sound and continues the previous one.
+  int check(igsInBuffer& buffer, int& data_end);
+  int fatal_error() const { return m_fatal; }
+  // 0 if a fatal code is recorded; else forgets the codes and returns 1.
+  int reset();
+  // Appends the recorded codes; a checker without a fatal code then forgets them.
+  void collect_errors(igsIOErrorcoDynArr& errors);
+  void position(igsFileSection& section, int& line) const {
+    section = m_section;
+    line = m_line_number;
+  }
+  int backpointer() const { return m_backpointer; }
+  int num_lines(igsFileSection section) const;
+
+ private:
+  void cache_buffer_attribs(igsInBuffer& buffer);
+  int check_syntax(igsFileSection& section, int& line, int& backpointer);
+  int check_semantics(igsFileSection section, int& line, int backpointer);
+  int check_section(igsFileSection& section);
+  int check_line_number(int& line);
+  int check_line_number_sequence(igsFileSection section, int& line);
+  int check_section_sequence(igsFileSection section);
+  int check_backpointer(igsFileSection section, int& value);
+  int check_backpointer_sequence(igsFileSection section, int value);
+  static int check_16bit_overflow(int& value);
+  int check_separator_column(igsFileSection section);
+  int data_end(igsFileSection section);
+  static igsFileSection convert_char_to_section(char c);
+  static void count_bools(int flag, int& count) { count += flag != 0; }
+  void set_error(igsIOErrorCode code);
+
+  char* m_text = nullptr;
+  int m_size = 0;
+  int m_line_counts[igsSectionNone] = {};
+  igsFileSection m_section = igsSectionStart;
+  int m_line_number = 0;
+  int m_backpointer = 0;
+  int m_fatal = 0;
+  igsIOErrorcoDynArr m_errors;
+};

@@ -1,0 +1,79 @@
+// Fetches the bytes of one record from the stream and repairs them into 80 columns.
+#pragma once
+
+#include "input/igsIOError.h"
+#include "support/coNames.h"
+
+#include <istream>
+
+class igsInBuffer;
+
+// Turns the bytes of a file, however damaged, into one record at a time. Line ends may be CR,
+// LF, CR LF or missing; NUL bytes, tabs, blank lines, records broken in two or run together,
+// trailing blanks cut away and a decimal point lost or doubled at the start of a Parameter
+// continuation line are repaired here. Problems are recorded as codes, each at most once
+// until collected; end of input and a failed stream are fatal and stay recorded.
+class igsInBufferFiller {
+ public:
+  explicit igsInBufferFiller(std::istream& stream);
+  virtual ~igsInBufferFiller();
+  igsInBufferFiller(igsInBufferFiller const&) = delete;
+  igsInBufferFiller& operator=(igsInBufferFiller const&) = delete;
+
+  // Delivers the next record into the buffer's line, NUL-terminated behind its size.
+  // Returns nonzero if the line is not empty.
+  int get(igsInBuffer& buffer);
+  // Appends the recorded codes; a filler without a fatal code then forgets them.
+  void collect_errors(igsIOErrorcoDynArr& errors);
+  int fatal_error() const { return m_fatal; }
+  // 0 if a fatal code is recorded; else forgets the codes and returns 1.
+  int reset();
+  void set_param_delimiter(char c) { m_param_delimiter = c; }
+  void set_record_delimiter(char c) { m_record_delimiter = c; }
+
+  // Whether a Hollerith string that starts on the line runs past its end: the count in front
+  // of the last "H" reaches beyond the text.
+  int in_holerith_string(charcoDynArr const& line) const;
+
+ private:
+  // The byte source: the stream's buffer read in place, with the stream's state bits kept as
+  // istream::peek and istream::get would leave them.
+  int good() const { return m_state == std::ios::goodbit; }
+  void set_state(std::ios::iostate bits);
+  int peek_char();
+  int read_chars(char* destination, int most);
+  void take_char();
+
+  int get_line(charcoDynArr& line);
+  int buffer_empty(charcoDynArr const& line) const;
+  void check_buffer(charcoDynArr& line, int has127s, int& missing);
+  void replace_tabs(charcoDynArr& line) const;
+  int looks_like_iges(charcoDynArr const& line, int& index) const;
+  static int iges_char(char c);
+  static int newline_char(char c) { return c == '\r' || c == '\n'; }
+  void insert_point(charcoDynArr& line, int index);
+  void remove_point(charcoDynArr& line);
+  void remove_excess_127s(charcoDynArr& line) const;
+  void replace_127s(charcoDynArr& line) const;
+  void store_overflow(charcoDynArr& line, int at);
+  void format_buffer(charcoDynArr& line);
+  void remove_trailing_spaces(charcoDynArr& line) const;
+  void reset_temp_buffers();
+  void pad_buffer(charcoDynArr& line, int width) const;
+  int check_for_continuation(charcoDynArr const& line) const;
+  void set_error(igsIOErrorCode code);
+
+  std::istream& m_stream;
+  std::streambuf* m_source;
+  std::ios::iostate m_state;
+  int m_fatal = 0;
+  igsIOErrorcoDynArr m_errors;
+  int m_continuation = 0;
+  char m_param_delimiter = ',';
+  char m_record_delimiter = ';';
+  int m_missing_point_warning = 1;
+  int m_double_point_warning = 1;
+  charcoDynArr m_overflow;
+  char m_sequence[7];
+  char m_backpointer[7];
+};

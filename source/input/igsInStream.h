@@ -1,0 +1,62 @@
+// The face of the input pipeline: one call reads one field of one type.
+#pragma once
+
+#include "input/igsInEngine.h"
+
+// Reads the fields of a file one by one, delimited or fixed-width, and keeps what there was to
+// say about the last read as a list of codes. A reader asks for the codes it cares about
+// (igsIOValuePresent tells a value from a defaulted field) and calls `reset` between records.
+// While the buffer is stopped every read gives the default value (0, 0.0 or the empty string)
+// and moves nothing.
+class igsInStream : public igsInEngine {
+ public:
+  explicit igsInStream(std::istream& stream);
+  ~igsInStream() override;
+
+  void read_integer(int& value) { read(m_int, value); }
+  void read_double(double& value) { read(m_real, value); }
+  void read_holerith(utString& value) { read(m_holerith, value); }
+  void read_integer(unsigned int width, int& value) { read(m_int, value, width); }
+  void read_string(unsigned int width, utString& value) { read(m_string, value, width); }
+
+  // Whether any code stands after the last read; igsIOValuePresent counts.
+  int error();
+  // Whether the code stands after the last read.
+  int error_type(igsIOErrorCode code);
+  // The codes that stand after the last read, with where the cursor stood.
+  igsIOErrorcoDynArr const& errors();
+
+  int reset() {
+    m_collected = 0;
+    return igsInEngine::reset();
+  }
+  void skip_line() {
+    m_collected = 0;
+    igsInEngine::skip_line();
+  }
+
+ protected:
+  void collect_errors();
+
+ private:
+  template <class Decoder, class Value> void read(Decoder& decoder, Value& value) {
+    m_collected = 0;
+    configure_for_decode(&decoder);
+    decode();
+    value = decoder.decoded_value();
+  }
+  template <class Decoder, class Value>
+  void read(Decoder& decoder, Value& value, unsigned int width) {
+    m_collected = 0;
+    configure_for_decode(&decoder);
+    fixed_decode(width);
+    value = decoder.decoded_value();
+  }
+
+  igsIOErrorcoDynArr m_errors;
+  int m_collected = 0;
+  igsIntDecoder m_int;
+  igsDoubleDecoder m_real;
+  igsHolerithDecoder m_holerith;
+  igsStrDecoder m_string;
+};

@@ -1,0 +1,23 @@
+// Character classes and number parsers of the input pipeline. They behave as the C library's
+// isspace, isdigit, strtol and strtod in the "C" locale, whatever locale the host has set, and
+// they need no look-up and no allocation.
+#pragma once
+
+// White space of the "C" locale: blank, tab, LF, VT, FF and CR.
+inline bool igs_is_space(char c) {
+  return c == ' ' || (c >= '\t' && c <= '\r');
+}
+inline bool igs_is_digit(char c) {
+  return c >= '0' && c <= '9';
+}
+
+// Reads a decimal integer the way strtol(text, &end, 10) does: leading white space, an
+// optional sign, then digits. Without digits the result is 0 and end is text. A value beyond
+// the range of int is clamped to INT_MIN or INT_MAX; end still passes every digit. The text
+// must end in a NUL or another character that is no digit.
+int igs_parse_int(char const* text, char const*& end);
+
+// Reads a real number the way strtod(text, &end) does in the "C" locale, with the same value
+// and the same stop position (hexadecimal, infinity and NaN forms included). Without a number
+// the result is 0.0 and end is text.
+double igs_parse_real(char const* text, char const*& end);
