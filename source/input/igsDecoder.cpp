@@ -20,6 +20,7 @@ igsDecoder::~igsDecoder() = default;
 void igsDecoder::collect_errors(igsIOErrorcoDynArr& errors) {
   for (igsIOError const& e : m_errors) errors.append(e);
   m_errors.shrink(0);
+  m_recorded = 0;
 }
 
 utString igsDecoder::decode_string(char const* text) const {
@@ -82,15 +83,6 @@ void igsStateDecoder::use_character(char c) {
 }
 
 // --- igsIntDecoder -----------------------------------------------------------------------
-
-int igsIntDecoder::decode_fast(char const* text) {
-  char const* end = nullptr;
-  m_value = igs_parse_int(text, end);
-  stop();
-  int used = static_cast<int>(end - text);
-  check_for_default(text, used);
-  return used;
-}
 
 void igsIntDecoder::active_decode() {
   if (terminate_text()) {

@@ -2,6 +2,7 @@
 #pragma once
 
 #include "input/igsIOError.h"
+#include "input/igsNumberText.h"
 #include "support/coNames.h"
 #include "support/utString.h"
 
@@ -38,7 +39,12 @@ class igsDecoder {
   char* buffer() { return m_text.data(); }
   void reset() { m_text.shrink(0); }
   void reset_buffer() { m_text.shrink(0); }
-  void set_error(igsIOErrorCode code) { igs_add_io_error(m_errors, code); }
+  void set_error(igsIOErrorCode code) {
+    unsigned bit = 1u << code;
+    if (m_recorded & bit) return;
+    m_recorded |= bit;
+    igs_add_io_error(m_errors, code);
+  }
   // A field that used any characters held a value.
   void check_for_default(char const*, int length) {
     if (length > 0) set_error(igsIOValuePresent);
@@ -51,6 +57,7 @@ class igsDecoder {
   int m_fast_available;
   charcoDynArr m_text;
   igsIOErrorcoDynArr m_errors;
+  unsigned m_recorded = 0; // one bit for each code in the list
 };
 
 // The slow way of every decoder: a state machine over the characters of a field. Newline
@@ -111,10 +118,17 @@ class igsStateDecoder : public igsDecoder {
 };
 
 // Integer fields.
-class igsIntDecoder : public igsStateDecoder {
+class igsIntDecoder final : public igsStateDecoder {
  public:
   igsIntDecoder() : igsStateDecoder(1, storing_state) {}
-  int decode_fast(char const* text) override;
+  int decode_fast(char const* text) override {
+    char const* end = nullptr;
+    m_value = igs_parse_int(text, end);
+    stop();
+    int used = static_cast<int>(end - text);
+    check_for_default(text, used);
+    return used;
+  }
   void reset_fast_decode() override { m_value = 0; }
   void reset_slow_decode() override {
     start();
@@ -130,7 +144,7 @@ class igsIntDecoder : public igsStateDecoder {
 };
 
 // Real fields; a D exponent counts as an E.
-class igsDoubleDecoder : public igsStateDecoder {
+class igsDoubleDecoder final : public igsStateDecoder {
  public:
   igsDoubleDecoder() : igsStateDecoder(1, storing_state) {}
   int decode_fast(char const* text) override;
@@ -150,7 +164,7 @@ class igsDoubleDecoder : public igsStateDecoder {
 };
 
 // Fixed-width text fields: the columns as they stand, blanks included.
-class igsStrDecoder : public igsStateDecoder {
+class igsStrDecoder final : public igsStateDecoder {
  public:
   igsStrDecoder() : igsStateDecoder(1, storing_string_state) {}
   int decode_fast(char const* text) override;
@@ -171,7 +185,7 @@ class igsStrDecoder : public igsStateDecoder {
 
 // Hollerith strings, "nH" and n characters. There is no fast way. A body shorter than declared
 // takes in the delimiters behind it; a longer one loses doubled blanks first, then its tail.
-class igsHolerithDecoder : public igsStateDecoder {
+class igsHolerithDecoder final : public igsStateDecoder {
  public:
   igsHolerithDecoder() : igsStateDecoder(0, storing_state) {}
   void accept_character(char c, int& cont, int& check_delimiter) override;

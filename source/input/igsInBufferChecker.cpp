@@ -11,6 +11,20 @@ constexpr int backpointer_at = 65;   // first column of the back pointer in an 8
 constexpr int separator_column = 64; // the blank in front of the back pointer
 constexpr char data_end_mark = '\n';
 
+// Reads a number field of a record as strtol would, and says where the parse stopped. A field
+// of blanks and then digits only, the usual case, is read directly.
+int parse_field(char const* text, char const*& end) {
+  char const* p = text;
+  char const* stop = text + field_width;
+  while (p < stop && *p == ' ') ++p;
+  if (p == stop || !igs_is_digit(*p)) return igs_parse_int(text, end);
+  int value = 0;
+  for (; p < stop && igs_is_digit(*p); ++p) value = value * 10 + (*p - '0');
+  if (p < stop || igs_is_digit(*p)) return igs_parse_int(text, end);
+  end = p;
+  return value;
+}
+
 } // namespace
 
 igsInBufferChecker::igsInBufferChecker() = default;
@@ -103,7 +117,7 @@ int igsInBufferChecker::check_line_number(int& line) {
     return 1;
   }
   char const* end = nullptr;
-  line = igs_parse_int(m_text + start, end);
+  line = parse_field(m_text + start, end);
   if (end != m_text + start + field_width) set_error(igsIOBadLineNumber);
   return 1;
 }
@@ -118,7 +132,7 @@ int igsInBufferChecker::check_backpointer(igsFileSection section, int& value) {
   if (section != igsSectionParameter) return 1;
   char const* end = nullptr;
   if (m_size == record_width) {
-    value = igs_parse_int(m_text + backpointer_at, end);
+    value = parse_field(m_text + backpointer_at, end);
     if (end == m_text + backpointer_at + field_width) return 1;
     set_error(igsIOBadBackpointer);
     return 0;

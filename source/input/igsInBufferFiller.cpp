@@ -4,6 +4,7 @@
 #include "input/igsNumberText.h"
 #include "support/kvnabs.h"
 
+#include <cstdint>
 #include <cstring>
 
 namespace {
@@ -15,6 +16,22 @@ constexpr int letter_column = 72; // index of a well-placed section letter
 constexpr int field_width = 7;    // sequence number and back pointer
 constexpr char break_marker = 127;
 
+// Eight bytes at a time: whether any byte is below n (n at most 128), or equals b.
+constexpr std::uint64_t low_bits = 0x0101010101010101ULL;
+constexpr std::uint64_t high_bits = 0x8080808080808080ULL;
+std::uint64_t load8(char const* p) {
+  std::uint64_t x;
+  std::memcpy(&x, p, sizeof x);
+  return x;
+}
+std::uint64_t any_below(std::uint64_t x, unsigned n) {
+  return (x - low_bits * n) & ~x & high_bits;
+}
+std::uint64_t any_equal(std::uint64_t x, char b) {
+  std::uint64_t v = x ^ (low_bits * static_cast<unsigned char>(b));
+  return (v - low_bits) & ~v & high_bits;
+}
+
 // The get area of a stream buffer, scanned and consumed in place. The members are protected
 // in std::streambuf; naming them through a derived class gives pointers to them.
 struct GetArea : std::streambuf {
@@ -23,29 +40,10 @@ struct GetArea : std::streambuf {
   static void skip(std::streambuf* b, int n) { (b->*&GetArea::gbump)(n); }
 };
 
-// Room for n more characters behind the line's size; returns where they start, or null.
-char* grow(charcoDynArr& line, int n) {
-  int old = line.size();
-  if (!line.expand(old + n)) return nullptr;
-  return line.data() + old;
-}
-
-void insert_front(charcoDynArr& line, char c) {
-  int n = line.size();
-  if (!grow(line, 1)) return;
-  char* p = line.data();
-  std::memmove(p + 1, p, static_cast<size_t>(n));
-  p[0] = c;
-}
-
-void append(charcoDynArr& line, char const* text, int n) {
-  if (char* p = grow(line, n)) std::memcpy(p, text, static_cast<size_t>(n));
-}
-
 } // namespace
 
 igsInBufferFiller::igsInBufferFiller(std::istream& stream)
-    : m_stream(stream), m_source(stream.rdbuf()), m_state(stream.rdstate()), m_overflow(81, 80) {
+    : m_stream(stream), m_source(stream.rdbuf()), m_state(stream.rdstate()) {
   if (!m_source) m_state |= std::ios::badbit;
   reset_temp_buffers();
 }
@@ -115,43 +113,126 @@ void igsInBufferFiller::take_char() {
   if (good()) m_source->sbumpc();
 }
 
+// --- text under repair -------------------------------------------------------------------
+
+char* igsInBufferFiller::Text::room(int n) {
+  int need = m_length + n + 1;
+  if (need > m_store.size() && !m_store.expand(need < 256 ? 256 : 2 * need)) return nullptr;
+  return m_store.data() + m_length;
+}
+
+void igsInBufferFiller::Text::append(char c) {
+  if (char* p = room(1)) {
+    *p = c;
+    ++m_length;
+  }
+}
+
+void igsInBufferFiller::Text::append(char const* text, int n) {
+  if (char* p = room(n)) {
+    std::memcpy(p, text, static_cast<size_t>(n));
+    m_length += n;
+  }
+}
+
+void igsInBufferFiller::Text::insert_front(char c) {
+  if (!room(1)) return;
+  char* p = data();
+  std::memmove(p + 1, p, static_cast<size_t>(m_length));
+  p[0] = c;
+  ++m_length;
+}
+
+void igsInBufferFiller::Text::erase_front() {
+  if (m_length <= 0) return;
+  char* p = data();
+  std::memmove(p, p + 1, static_cast<size_t>(m_length - 1));
+  --m_length;
+}
+
 // --- records -----------------------------------------------------------------------------
 
 int igsInBufferFiller::get(igsInBuffer& buffer) {
   charcoDynArr& line = buffer.buffer();
-  line.shrink(0);
+  if (take_whole_record(line)) return 1;
+  if (m_continuation < 0) m_continuation = check_for_continuation(m_line.data(), m_line.size());
+  m_line.cut(0);
   int missing = record_width;
   int has127s = 0;
-  while (get_line(line)) {
-    if (buffer_empty(line)) {
+  while (get_line()) {
+    if (buffer_empty()) {
       set_error(igsIOBlankLine);
-      line.shrink(0);
+      m_line.cut(0);
       continue;
     }
-    check_buffer(line, has127s, missing);
+    replace_tabs();
+    if (formatted_record(m_line.data(), m_line.size())) break;
+    check_buffer(has127s, missing);
     if (missing <= 0) break;
-    line.append(break_marker);
+    m_line.append(break_marker);
     has127s = 1;
   }
-  if (has127s) replace_127s(line);
-  m_continuation = check_for_continuation(line);
-  line.append('\0');
-  line.shrink(line.size() - 1);
+  if (has127s) replace_127s();
+  m_continuation = check_for_continuation(m_line.data(), m_line.size());
+  deliver(line, m_line.data(), m_line.size());
   if (line.size() == 0 && peek_char() == std::char_traits<char>::eof()) set_error(igsIOEndOfFile);
   if (m_state & std::ios::badbit) set_error(igsIOStreamBad);
   if (m_state & (std::ios::failbit | std::ios::badbit)) set_error(igsIOStreamFailed);
   return line.size() != 0;
 }
 
+// The common case, taken straight from the stream's get area: an 80-column record followed by
+// LF or CR LF, with no control character in it, that stands in its columns already. Every
+// repair would leave it as it is, and the stream's state does not change.
+int igsInBufferFiller::take_whole_record(charcoDynArr& line) {
+  if (!good() || m_overflow.size() || !m_source) return 0;
+  char const* p = GetArea::next(m_source);
+  long available = GetArea::end(m_source) - p;
+  if (available < record_width + 1) return 0;
+  int ending = 0;
+  if (p[record_width] == '\n')
+    ending = 1;
+  else if (available > record_width + 1 && p[record_width] == '\r' && p[record_width + 1] == '\n')
+    ending = 2;
+  if (!ending) return 0;
+  std::uint64_t control = 0;
+  for (int i = 0; i < record_width; i += 8) control |= any_below(load8(p + i), ' ');
+  if (control || !formatted_record(p, record_width)) return 0;
+  // The record is kept: whether the next line continues it is asked only if that line needs
+  // repair.
+  m_line.cut(0);
+  m_line.append(p, record_width);
+  m_continuation = -1;
+  deliver(line, p, record_width);
+  GetArea::skip(m_source, record_width + ending);
+  return 1;
+}
+
+// The record goes to the buffer's line, with a NUL behind it that the size does not count.
+// The line keeps the size it had where it can, so that no character is written twice.
+void igsInBufferFiller::deliver(charcoDynArr& line, char const* text, int length) {
+  if (line.size() > length + 1)
+    line.shrink(length + 1);
+  else
+    line.expand(length + 1);
+  if (length >= 0 && line.size() == length + 1) {
+    if (length > 0) std::memcpy(line.data(), text, static_cast<size_t>(length));
+    line[length] = '\0';
+    line.shrink(length);
+  } else {
+    line.shrink(0);
+  }
+}
+
 // Appends one physical line. CR, LF and CR LF end it; text behind a CR in mid-line waits in
 // the overflow store for the next call.
-int igsInBufferFiller::get_line(charcoDynArr& line) {
-  int entry = line.size();
+int igsInBufferFiller::get_line() {
+  int entry = m_line.size();
   if (int pending = m_overflow.size()) {
     char* text = m_overflow.data();
-    int i = 0;
-    char* out = grow(line, pending);
+    char* out = m_line.room(pending);
     if (!out) return 0;
+    int i = 0;
     for (; i < pending && !newline_char(text[i]); ++i) {
       char c = text[i];
       if (c == '\0') {
@@ -160,14 +241,14 @@ int igsInBufferFiller::get_line(charcoDynArr& line) {
       }
       out[i] = c;
     }
-    line.shrink(entry + i);
+    m_line.grow(i);
     if (i < pending) {
       int rest = pending - i - 1;
       std::memmove(text, text + i + 1, static_cast<size_t>(rest));
-      m_overflow.shrink(rest);
+      m_overflow.cut(rest);
       return 1;
     }
-    m_overflow.shrink(0);
+    m_overflow.cut(0);
   }
 
   int met_cr = 0;
@@ -179,85 +260,98 @@ int igsInBufferFiller::get_line(charcoDynArr& line) {
       met_lf = 1;
       break;
     }
-    if (met_cr || line.size() >= most_held) break;
-    int old = line.size();
-    int want = most_held - old < most_asked ? most_held - old : most_asked;
-    char* text = grow(line, want);
+    int size = m_line.size();
+    if (met_cr || size >= most_held) break;
+    int want = most_held - size < most_asked ? most_held - size : most_asked;
+    char* text = m_line.room(want);
     if (!text) break;
     int got = read_chars(text, want);
     int valid = got;
-    for (int i = 0; i < got; ++i) {
-      char& ch = text[i];
-      if (ch == '\0') {
-        ch = ' ';
-        set_error(igsIONullCharacter);
-      } else if (newline_char(ch)) {
-        valid = i;
-        met_cr = 1;
-        break;
-      }
+    if (void const* cr = std::memchr(text, '\r', static_cast<size_t>(got))) {
+      valid = static_cast<int>(static_cast<char const*>(cr) - text);
+      met_cr = 1;
+      m_overflow.append(text + valid + 1, got - valid - 1);
     }
-    if (valid + 1 < got) {
-      m_overflow.shrink(0);
-      append(m_overflow, text + valid + 1, got - valid - 1);
+    for (char* nul = text; (nul = static_cast<char*>(std::memchr(
+                                nul, '\0', static_cast<size_t>(text + valid - nul))));) {
+      *nul++ = ' ';
+      set_error(igsIONullCharacter);
     }
-    line.shrink(old + valid);
+    m_line.grow(valid);
   }
   if (met_lf) take_char();
-  if (line.size() > entry) return 1;
+  if (m_line.size() > entry) return 1;
   if (!good()) return 0;
   return peek_char() != std::char_traits<char>::eof();
 }
 
-int igsInBufferFiller::buffer_empty(charcoDynArr const& line) const {
-  for (char c : line)
-    if (!igs_is_space(c)) return 0;
+int igsInBufferFiller::buffer_empty() const {
+  char const* p = m_line.data();
+  for (int i = 0, n = m_line.size(); i < n; ++i)
+    if (!igs_is_space(p[i])) return 0;
   return 1;
 }
 
-void igsInBufferFiller::check_buffer(charcoDynArr& line, int has127s, int& missing) {
-  int length = line.size();
-  replace_tabs(line);
+// An 80-column record that stands in its columns already: a section letter in column 73, a
+// right-justified number behind it and, in the Parameter section, a blank in column 65 and a
+// right-justified back pointer. The repairs would leave it exactly as it is.
+int igsInBufferFiller::formatted_record(char const* p, int length) {
+  if (length != record_width) return 0;
+  auto right_justified = [p](int from, int to, int need_digit) {
+    int i = to - 1;
+    if (need_digit && !igs_is_digit(p[i])) return 0;
+    while (i >= from && igs_is_digit(p[i])) --i;
+    while (i >= from && p[i] == ' ') --i;
+    return i < from ? 1 : 0;
+  };
+  char letter = p[letter_column];
+  if (!iges_char(letter) || !right_justified(letter_column + 1, record_width, 1)) return 0;
+  if (letter != 'P') return 1;
+  return p[64] == ' ' && right_justified(65, letter_column, 0);
+}
+
+void igsInBufferFiller::check_buffer(int has127s, int& missing) {
+  int length = m_line.size();
   int index = 0;
-  int iges = looks_like_iges(line, index);
+  int iges = looks_like_iges(index);
   if (!iges) {
     if (length < record_width) {
       missing = record_width - length;
       return;
     }
     if (length == record_width) {
-      format_buffer(line);
+      format_buffer();
       missing = 0;
       return;
     }
-    if (has127s) remove_excess_127s(line);
-    store_overflow(line, record_width);
-    iges = looks_like_iges(line, index);
+    if (has127s) remove_excess_127s();
+    store_overflow(record_width);
+    iges = looks_like_iges(index);
   } else if (length >= most_held) {
-    store_overflow(line, record_width);
-    iges = looks_like_iges(line, index);
+    store_overflow(record_width);
+    iges = looks_like_iges(index);
   }
   if (iges) {
     if (index < letter_column)
-      insert_point(line, index);
+      insert_point(index);
     else if (index > letter_column)
-      remove_point(line);
+      remove_point();
   }
-  format_buffer(line);
+  format_buffer();
   missing = 0;
 }
 
-void igsInBufferFiller::replace_tabs(charcoDynArr& line) const {
-  char* p = line.data();
-  char* end = p + line.size();
+void igsInBufferFiller::replace_tabs() {
+  char* p = m_line.data();
+  char* end = p + m_line.size();
   while ((p = static_cast<char*>(std::memchr(p, '\t', static_cast<size_t>(end - p))))) *p++ = ' ';
 }
 
 // A record ends in a section letter followed by one group of digits, with blanks allowed
 // around the digits. The scan runs from the end and never takes index 0 into the run.
-int igsInBufferFiller::looks_like_iges(charcoDynArr const& line, int& index) const {
-  char const* p = line.data();
-  int i = line.size() - 1;
+int igsInBufferFiller::looks_like_iges(int& index) const {
+  char const* p = m_line.data();
+  int i = m_line.size() - 1;
   if (i < 0) {
     index = 0;
     return 0;
@@ -287,16 +381,16 @@ int igsInBufferFiller::iges_char(char c) {
 }
 
 // A Parameter continuation line that lost the decimal point in front of its first number.
-void igsInBufferFiller::insert_point(charcoDynArr& line, int index) {
-  char const* p = line.data();
-  int size = line.size();
+void igsInBufferFiller::insert_point(int index) {
+  char const* p = m_line.data();
+  int size = m_line.size();
   if (size >= record_width || p[index] != 'P' || !m_continuation || !igs_is_digit(p[0])) return;
   int point = 0;
   int i = 0;
   for (; i < size && p[i] != m_param_delimiter; ++i)
     if (p[i] == '.') point = 1;
   if (i < size && point) return;
-  insert_front(line, '.');
+  m_line.insert_front('.');
   if (m_missing_point_warning) {
     m_missing_point_warning = 0;
     igs_print_error_message(
@@ -306,24 +400,22 @@ void igsInBufferFiller::insert_point(charcoDynArr& line, int index) {
 }
 
 // A line that gained a second decimal point at its start.
-void igsInBufferFiller::remove_point(charcoDynArr& line) {
-  int size = line.size();
-  char* p = line.data();
-  if (size <= record_width || p[0] != '.' || p[1] != '.') return;
+void igsInBufferFiller::remove_point() {
+  char const* p = m_line.data();
+  if (m_line.size() <= record_width || p[0] != '.' || p[1] != '.') return;
   if (m_double_point_warning) {
     m_double_point_warning = 0;
     igs_print_error_message(
         "Warning: This file is corrupt - it contains lines starting with two decimal "
         "points.\nOne of the decimal points will be removed from such lines.\n ");
   }
-  std::memmove(p, p + 1, static_cast<size_t>(size - 1));
-  line.shrink(size - 1);
+  m_line.erase_front();
 }
 
 // Drops break markers from the left, as many as the line is longer than a record.
-void igsInBufferFiller::remove_excess_127s(charcoDynArr& line) const {
-  char* p = line.data();
-  int size = line.size();
+void igsInBufferFiller::remove_excess_127s() {
+  char* p = m_line.data();
+  int size = m_line.size();
   int running = size;
   int out = 0;
   for (int i = 0; i < size; ++i) {
@@ -333,36 +425,39 @@ void igsInBufferFiller::remove_excess_127s(charcoDynArr& line) const {
     }
     p[out++] = p[i];
   }
-  line.shrink(out);
+  m_line.cut(out);
 }
 
-void igsInBufferFiller::replace_127s(charcoDynArr& line) const {
-  for (char& c : line)
-    if (c == break_marker) c = ' ';
+void igsInBufferFiller::replace_127s() {
+  char* p = m_line.data();
+  for (int i = 0, n = m_line.size(); i < n; ++i)
+    if (p[i] == break_marker) p[i] = ' ';
 }
 
 // The text from `at` on waits for the next record, in front of any text already waiting.
-void igsInBufferFiller::store_overflow(charcoDynArr& line, int at) {
-  int size = line.size();
+void igsInBufferFiller::store_overflow(int at) {
+  int size = m_line.size();
   if (at >= size) return;
   int moved = size - at;
   int waiting = m_overflow.size();
-  if (!grow(m_overflow, moved)) return;
-  char* store = m_overflow.data();
+  char* store = m_overflow.room(moved);
+  if (!store) return;
+  store = m_overflow.data();
   std::memmove(store + moved, store, static_cast<size_t>(waiting));
-  std::memcpy(store, line.data() + at, static_cast<size_t>(moved));
-  line.shrink(at);
+  std::memcpy(store, m_line.data() + at, static_cast<size_t>(moved));
+  m_overflow.grow(moved);
+  m_line.cut(at);
 }
 
 // Puts a record back into its columns: data padded to its width, then (Parameter section)
 // a blank and the back pointer, then the section letter and the sequence number, both
 // right-justified.
-void igsInBufferFiller::format_buffer(charcoDynArr& line) {
-  remove_trailing_spaces(line);
+void igsInBufferFiller::format_buffer() {
+  remove_trailing_spaces();
   reset_temp_buffers();
-  int size = line.size();
+  int size = m_line.size();
   if (size <= 1) return;
-  char const* p = line.data();
+  char const* p = m_line.data();
   int i = size - 1;
   int digits = 0;
   int gap = 0;
@@ -391,22 +486,22 @@ void igsInBufferFiller::format_buffer(charcoDynArr& line) {
       --cut;
     }
   }
-  line.shrink(cut);
-  remove_trailing_spaces(line);
-  pad_buffer(line, width);
+  m_line.cut(cut);
+  remove_trailing_spaces();
+  pad_buffer(width);
   if (letter == 'P') {
-    line.append(' ');
-    append(line, m_backpointer, field_width);
+    m_line.append(' ');
+    m_line.append(m_backpointer, field_width);
   }
-  line.append(letter);
-  append(line, m_sequence, field_width);
+  m_line.append(letter);
+  m_line.append(m_sequence, field_width);
 }
 
-void igsInBufferFiller::remove_trailing_spaces(charcoDynArr& line) const {
-  int size = line.size();
-  char const* p = line.data();
+void igsInBufferFiller::remove_trailing_spaces() {
+  int size = m_line.size();
+  char const* p = m_line.data();
   while (size > 0 && p[size - 1] == ' ') --size;
-  line.shrink(size);
+  m_line.cut(size);
 }
 
 void igsInBufferFiller::reset_temp_buffers() {
@@ -414,19 +509,34 @@ void igsInBufferFiller::reset_temp_buffers() {
   std::memset(m_backpointer, ' ', sizeof m_backpointer);
 }
 
-void igsInBufferFiller::pad_buffer(charcoDynArr& line, int width) const {
-  int size = line.size();
+void igsInBufferFiller::pad_buffer(int width) {
+  int size = m_line.size();
   if (size >= width) return;
-  if (char* p = grow(line, width - size)) std::memset(p, ' ', static_cast<size_t>(width - size));
+  if (char* p = m_line.room(width - size)) {
+    std::memset(p, ' ', static_cast<size_t>(width - size));
+    m_line.grow(width - size);
+  }
 }
 
 // Whether the record stopped behind a parameter delimiter and a blank, with no record
-// delimiter after it: the next line then continues a value list.
-int igsInBufferFiller::check_for_continuation(charcoDynArr const& line) const {
-  char const* p = line.data();
-  for (int i = line.size() - 1; i >= 0; --i) {
-    if (p[i] == m_record_delimiter) return 0;
-    if (p[i] == m_param_delimiter && i + 1 < line.size() && p[i + 1] == ' ') return 1;
+// delimiter after it: the next line then continues a value list. The scan runs from the end;
+// eight characters without either delimiter are passed over at once.
+int igsInBufferFiller::check_for_continuation(char const* p, int length) const {
+  int i = length;
+  while (i > 0) {
+    int from = i >= 8 ? i - 8 : 0;
+    if (i - from == 8) {
+      std::uint64_t x = load8(p + from);
+      if (!(any_equal(x, m_record_delimiter) | any_equal(x, m_param_delimiter))) {
+        i = from;
+        continue;
+      }
+    }
+    for (int k = i - 1; k >= from; --k) {
+      if (p[k] == m_record_delimiter) return 0;
+      if (p[k] == m_param_delimiter && k + 1 < length && p[k + 1] == ' ') return 1;
+    }
+    i = from;
   }
   return 0;
 }

@@ -36,6 +36,29 @@ class igsInBufferFiller {
   int in_holerith_string(charcoDynArr const& line) const;
 
  private:
+  // Text under repair. Its store only grows and all its elements stay constructed, so that the
+  // length can move freely without touching the characters.
+  class Text {
+   public:
+    char* data() { return m_store.data(); }
+    char const* data() const { return m_store.data(); }
+    int size() const { return m_length; }
+    // Room for n more characters (and a NUL) behind the text; returns where they start, or
+    // null if the store cannot grow. The length is not changed.
+    char* room(int n);
+    // Lengthens the text by n characters written through `room`.
+    void grow(int n) { m_length += n; }
+    void cut(int n) { m_length = n < m_length ? n : m_length; }
+    void append(char c);
+    void append(char const* text, int n);
+    void insert_front(char c);
+    void erase_front();
+
+   private:
+    charcoDynArr m_store;
+    int m_length = 0;
+  };
+
   // The byte source: the stream's buffer read in place, with the stream's state bits kept as
   // istream::peek and istream::get would leave them.
   int good() const { return m_state == std::ios::goodbit; }
@@ -44,23 +67,26 @@ class igsInBufferFiller {
   int read_chars(char* destination, int most);
   void take_char();
 
-  int get_line(charcoDynArr& line);
-  int buffer_empty(charcoDynArr const& line) const;
-  void check_buffer(charcoDynArr& line, int has127s, int& missing);
-  void replace_tabs(charcoDynArr& line) const;
-  int looks_like_iges(charcoDynArr const& line, int& index) const;
+  int take_whole_record(charcoDynArr& line);
+  void deliver(charcoDynArr& line, char const* text, int length);
+  int get_line();
+  int buffer_empty() const;
+  static int formatted_record(char const* text, int length);
+  void check_buffer(int has127s, int& missing);
+  void replace_tabs();
+  int looks_like_iges(int& index) const;
   static int iges_char(char c);
   static int newline_char(char c) { return c == '\r' || c == '\n'; }
-  void insert_point(charcoDynArr& line, int index);
-  void remove_point(charcoDynArr& line);
-  void remove_excess_127s(charcoDynArr& line) const;
-  void replace_127s(charcoDynArr& line) const;
-  void store_overflow(charcoDynArr& line, int at);
-  void format_buffer(charcoDynArr& line);
-  void remove_trailing_spaces(charcoDynArr& line) const;
+  void insert_point(int index);
+  void remove_point();
+  void remove_excess_127s();
+  void replace_127s();
+  void store_overflow(int at);
+  void format_buffer();
+  void remove_trailing_spaces();
   void reset_temp_buffers();
-  void pad_buffer(charcoDynArr& line, int width) const;
-  int check_for_continuation(charcoDynArr const& line) const;
+  void pad_buffer(int width);
+  int check_for_continuation(char const* text, int length) const;
   void set_error(igsIOErrorCode code);
 
   std::istream& m_stream;
@@ -68,12 +94,13 @@ class igsInBufferFiller {
   std::ios::iostate m_state;
   int m_fatal = 0;
   igsIOErrorcoDynArr m_errors;
-  int m_continuation = 0;
+  int m_continuation = 0; // -1: not yet known for the record in m_line
   char m_param_delimiter = ',';
   char m_record_delimiter = ';';
   int m_missing_point_warning = 1;
   int m_double_point_warning = 1;
-  charcoDynArr m_overflow;
+  Text m_line;     // the record being made
+  Text m_overflow; // text read but not yet delivered
   char m_sequence[7];
   char m_backpointer[7];
 };

@@ -15,9 +15,13 @@ class igsInEngine : public igsInBuffer {
   // The decoder for the fields that follow; not owned.
   void configure_for_decode(igsDecoder* decoder) { m_decoder = decoder; }
   // Reads one delimited field with the current decoder.
-  void decode();
+  void decode() {
+    if (m_decoder) decode(*m_decoder);
+  }
   // Reads one field of `width` columns with the current decoder.
-  void fixed_decode(unsigned int width);
+  void fixed_decode(unsigned int width) {
+    if (m_decoder) fixed_decode(*m_decoder, width);
+  }
   // Appends the codes of the filler, the checker and the current decoder, and stamps every
   // entry of the list with the cursor's section, line and column.
   void collect_errors(igsIOErrorcoDynArr& errors);
@@ -33,14 +37,75 @@ class igsInEngine : public igsInBuffer {
     is_record = 0;
     return enabled ? delimiter(c, is_record) : 0;
   }
-  int fast_decode();
-  void slow_decode();
-  int fixed_fast_decode(unsigned int width);
-  void fixed_slow_decode(unsigned int width);
-  void pre_decode();
+  int fast_decode() { return m_decoder ? fast_decode(*m_decoder) : 0; }
+  void slow_decode() {
+    if (m_decoder) slow_decode(*m_decoder);
+  }
+  int fixed_fast_decode(unsigned int width) {
+    return m_decoder ? fixed_fast_decode(*m_decoder, width) : 0;
+  }
+  void fixed_slow_decode(unsigned int width) {
+    if (m_decoder) fixed_slow_decode(*m_decoder, width);
+  }
   void halt_buffer(int halt) {
     if (halt) freeze();
   }
+
+  // Brings the cursor to the first character of the field, across blank and short lines.
+  void pre_decode() {
+    for (;;) {
+      char const* p = (*this)();
+      unsigned int blanks = 0;
+      while (p[blanks] == ' ') ++blanks;
+      if (p[blanks] != '\n' || frozen()) {
+        *this += blanks;
+        return;
+      }
+      *this += blanks + 1;
+    }
+  }
+
+  // The steps of the reads for a decoder whose class is known to the caller: a final decoder
+  // class has its fast way called directly.
+  template <class Decoder> void decode(Decoder& decoder) {
+    decoder.reset_fast_decode();
+    pre_decode();
+    if (fast_decode(decoder)) return;
+    decoder.reset_slow_decode();
+    slow_decode(decoder);
+  }
+  template <class Decoder> int fast_decode(Decoder& decoder) {
+    if (!decoder.fast_decode_avail()) return 0;
+    char const* p = (*this)();
+    int used = decoder.decode_fast(p);
+    int is_record = 0;
+    if (!delimiter(p[used], is_record)) return 0;
+    *this += static_cast<unsigned int>(used) + 1;
+    halt_buffer(is_record);
+    return 1;
+  }
+  template <class Decoder> void fixed_decode(Decoder& decoder, unsigned int width) {
+    decoder.reset_fast_decode();
+    if (fixed_fast_decode(decoder, width)) return;
+    decoder.reset_slow_decode();
+    fixed_slow_decode(decoder, width);
+  }
+  // The field is cut out by a NUL planted behind it; behind the end of the line the NUL that
+  // ends it does the same.
+  template <class Decoder> int fixed_fast_decode(Decoder& decoder, unsigned int width) {
+    if (!decoder.fast_decode_avail()) return 0;
+    char* p = cursor();
+    bool planted = static_cast<long>(width) <= room();
+    char saved = planted ? p[width] : '\0';
+    if (planted) p[width] = '\0';
+    int used = decoder.decode_fast(p);
+    if (planted) p[width] = saved;
+    if (static_cast<unsigned int>(used) != width) return 0;
+    *this += width;
+    return 1;
+  }
+  void slow_decode(igsDecoder& decoder);
+  void fixed_slow_decode(igsDecoder& decoder, unsigned int width);
 
  private:
   igsDecoder* m_decoder = nullptr;

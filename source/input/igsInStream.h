@@ -42,14 +42,14 @@ class igsInStream : public igsInEngine {
   template <class Decoder, class Value> void read(Decoder& decoder, Value& value) {
     m_collected = 0;
     configure_for_decode(&decoder);
-    decode();
+    decode(decoder);
     value = decoder.decoded_value();
   }
   template <class Decoder, class Value>
   void read(Decoder& decoder, Value& value, unsigned int width) {
     m_collected = 0;
     configure_for_decode(&decoder);
-    fixed_decode(width);
+    fixed_decode(decoder, width);
     value = decoder.decoded_value();
   }
 

@@ -1,28 +1,57 @@
 #include "input/igsNumberText.h"
 
 #include <charconv>
-#include <climits>
+#include <cstdint>
 #include <cstdlib>
 
-int igs_parse_int(char const* text, char const*& end) {
-  char const* s = text;
-  while (igs_is_space(*s)) ++s;
-  bool negative = false;
-  if (*s == '+' || *s == '-') negative = *s++ == '-';
-  if (!igs_is_digit(*s)) {
-    end = text;
-    return 0;
+// Reads the common real in one pass: at most 19 significant digits whose value is below 2^53,
+// and a power of ten within 22 of zero. Mantissa and power are then exact doubles, and one
+// multiplication or division rounds correctly, which is what strtod gives. Returns false for
+// anything else, leaving it to the general road.
+static bool parse_plain_real(char const* p, bool negative, double& value, char const*& end) {
+  static constexpr double powers[] = {1e0,  1e1,  1e2,  1e3,  1e4,  1e5,  1e6,  1e7,
+                                      1e8,  1e9,  1e10, 1e11, 1e12, 1e13, 1e14, 1e15,
+                                      1e16, 1e17, 1e18, 1e19, 1e20, 1e21, 1e22};
+  std::uint64_t mantissa = 0;
+  int digits = 0;
+  int exponent = 0;
+  char const* q = p;
+  while (*q == '0') ++q;
+  for (; igs_is_digit(*q); ++q, ++digits) {
+    if (digits == 19) return false;
+    mantissa = mantissa * 10 + static_cast<unsigned>(*q - '0');
   }
-  // Accumulate as a negative number, so that INT_MIN is reached without overflow.
-  long long value = 0;
-  constexpr long long limit = -static_cast<long long>(INT_MAX) - 2;
-  for (; igs_is_digit(*s); ++s)
-    if (value > limit) value = value * 10 - (*s - '0');
-  end = s;
-  if (!negative) value = -value;
-  if (value > INT_MAX) return INT_MAX;
-  if (value < INT_MIN) return INT_MIN;
-  return static_cast<int>(value);
+  if (*q == '.') {
+    ++q;
+    if (digits == 0)
+      for (; *q == '0'; ++q) --exponent;
+    for (; igs_is_digit(*q); ++q, ++digits, --exponent) {
+      if (digits == 19) return false;
+      mantissa = mantissa * 10 + static_cast<unsigned>(*q - '0');
+    }
+  }
+  if (*q == 'e' || *q == 'E') {
+    char const* e = q + 1;
+    bool negative_power = false;
+    if (*e == '+' || *e == '-') negative_power = *e++ == '-';
+    if (igs_is_digit(*e)) {
+      int power = 0;
+      for (; igs_is_digit(*e); ++e)
+        if (power < 100000) power = power * 10 + (*e - '0');
+      exponent += negative_power ? -power : power;
+      q = e;
+    }
+  }
+  if (mantissa == 0) {
+    value = negative ? -0.0 : 0.0;
+  } else {
+    if (mantissa > (std::uint64_t(1) << 53) || exponent < -22 || exponent > 22) return false;
+    value = static_cast<double>(mantissa);
+    value = exponent < 0 ? value / powers[-exponent] : value * powers[exponent];
+    if (negative) value = -value;
+  }
+  end = q;
+  return true;
 }
 
 static bool is_real_char(char c) {
@@ -40,6 +69,10 @@ double igs_parse_real(char const* text, char const*& end) {
   char const* mantissa = first + (!plus && *first == '-');
   bool plain = igs_is_digit(*mantissa) || *mantissa == '.';
   if (plain && mantissa[0] == '0' && (mantissa[1] == 'x' || mantissa[1] == 'X')) plain = false;
+  if (plain && (igs_is_digit(*mantissa) || igs_is_digit(mantissa[1]))) {
+    double value = 0.0;
+    if (parse_plain_real(mantissa, mantissa != first, value, end)) return value;
+  }
   if (plain) {
     char const* last = mantissa;
     while (is_real_char(*last)) ++last;

@@ -3,6 +3,8 @@
 // they need no look-up and no allocation.
 #pragma once
 
+#include <climits>
+
 // White space of the "C" locale: blank, tab, LF, VT, FF and CR.
 inline bool igs_is_space(char c) {
   return c == ' ' || (c >= '\t' && c <= '\r');
@@ -15,7 +17,26 @@ inline bool igs_is_digit(char c) {
 // optional sign, then digits. Without digits the result is 0 and end is text. A value beyond
 // the range of int is clamped to INT_MIN or INT_MAX; end still passes every digit. The text
 // must end in a NUL or another character that is no digit.
-int igs_parse_int(char const* text, char const*& end);
+inline int igs_parse_int(char const* text, char const*& end) {
+  char const* s = text;
+  while (igs_is_space(*s)) ++s;
+  bool negative = false;
+  if (*s == '+' || *s == '-') negative = *s++ == '-';
+  if (!igs_is_digit(*s)) {
+    end = text;
+    return 0;
+  }
+  // Accumulate as a negative number, so that INT_MIN is reached without overflow.
+  long long value = 0;
+  constexpr long long limit = -static_cast<long long>(INT_MAX) - 2;
+  for (; igs_is_digit(*s); ++s)
+    if (value > limit) value = value * 10 - (*s - '0');
+  end = s;
+  if (!negative) value = -value;
+  if (value > INT_MAX) return INT_MAX;
+  if (value < INT_MIN) return INT_MIN;
+  return static_cast<int>(value);
+}
 
 // Reads a real number the way strtod(text, &end) does in the "C" locale, with the same value
 // and the same stop position (hexadecimal, infinity and NaN forms included). Without a number
