@@ -4,6 +4,8 @@
 
 #include <gtest/gtest.h>
 
+#include <algorithm>
+
 using namespace igs_input_test;
 
 namespace {
@@ -287,6 +289,70 @@ TEST(igsInBufferFiller, UnbufferedSourceGivesTheSameRecords) {
   while (filler.get(holder)) lines.push_back(holder.line());
   EXPECT_EQ(lines, fill(bytes).lines);
   EXPECT_EQ(lines.size(), 5u);
+}
+
+// A stream buffer that hands its text out in chunks, so that records straddle the ends of
+// its get area.
+class ChunkBuf : public std::streambuf {
+ public:
+  ChunkBuf(std::string text, size_t chunk) : m_text(std::move(text)), m_chunk(chunk) {}
+
+ protected:
+  int_type underflow() override {
+    if (gptr() < egptr()) return traits_type::to_int_type(*gptr());
+    if (m_at >= m_text.size()) return traits_type::eof();
+    size_t n = std::min(m_chunk, m_text.size() - m_at);
+    char* begin = m_text.data() + m_at;
+    setg(begin, begin, begin + n);
+    m_at += n;
+    return traits_type::to_int_type(*begin);
+  }
+
+ private:
+  std::string m_text;
+  size_t m_chunk;
+  size_t m_at = 0;
+};
+
+TEST(igsInBufferFiller, AnyChunkingOfTheStreamGivesTheSameRecordsAndCodes) {
+  WarningCatcher warnings;
+  auto file = sound_file();
+  std::string p1 = record('P', 1, "126,1,1,0,0,1,0,0.,0.,1.,1., ", 1);
+  std::string p2 = record('P', 2, ".5,0.5,0.,0.;", 1);
+  std::string with_nul = file[3];
+  with_nul[20] = '\0';
+  std::string bytes = file[0] + "\r\n" + file[1] + file[2] + "\n\n" + with_nul + "\r" +
+                      file[4].substr(0, 30) + "\n" + file[4].substr(31) + "\r\n" + p1 + "\n" +
+                      p2.substr(1) + "\n" + "S1\n" + repeat('z', 170) + "\r\n" + file[6];
+  FillerRun whole = fill(bytes);
+  // S1, S2, G1, D1, D2 (whose fold lost a character), P1, P2 (its point put back), S1, two
+  // records of z and the last ten z joined to the Terminate line.
+  ASSERT_EQ(whole.lines.size(), 11u);
+  EXPECT_EQ(whole.lines[3], file[3]);
+  EXPECT_EQ(whole.lines[6], p2);
+  EXPECT_EQ(whole.lines[10], record('T', 1, repeat('z', 10) + file[6].substr(0, 32)));
+  // The two LF behind S2 and G1 end the physical line and then the waiting G1: no blank line.
+  EXPECT_EQ(whole.codes[3], Codes{igsIONullCharacter});
+  for (size_t chunk : {1u, 7u, 79u, 80u, 81u, 82u, 161u}) {
+    SCOPED_TRACE("chunk " + std::to_string(chunk));
+    ChunkBuf source(bytes, chunk);
+    std::istream in(&source);
+    std::istringstream empty;
+    LineHolder holder(empty);
+    igsInBufferFiller filler(in);
+    FillerRun run;
+    while (filler.get(holder)) {
+      run.lines.push_back(holder.line());
+      igsIOErrorcoDynArr errors;
+      filler.collect_errors(errors);
+      std::vector<igsIOErrorCode> codes;
+      for (auto const& e : errors) codes.push_back(e.error_type());
+      run.codes.push_back(codes);
+    }
+    EXPECT_EQ(run.lines, whole.lines);
+    EXPECT_EQ(run.codes, whole.codes);
+    EXPECT_TRUE(in.eof());
+  }
 }
 
 TEST(igsInBufferFiller, ContinuationAndHollerithQueries) {
