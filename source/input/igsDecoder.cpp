@@ -17,12 +17,6 @@ igsDecoder::igsDecoder(int fast_available) : m_fast_available(fast_available), m
 
 igsDecoder::~igsDecoder() = default;
 
-void igsDecoder::collect_errors(igsIOErrorcoDynArr& errors) {
-  for (igsIOError const& e : m_errors) errors.append(e);
-  m_errors.shrink(0);
-  m_recorded = 0;
-}
-
 utString igsDecoder::decode_string(char const* text) const {
   int length = static_cast<int>(std::strlen(text));
   return kvaString(kvaStringInputDefault, text, length).string();
@@ -149,12 +143,6 @@ void igsHolerithDecoder::accept_character(char c, int& cont, int& check_delimite
   use_character(c);
   cont = m_state != frozen_state;
   check_delimiter = !char_expected();
-}
-
-void igsHolerithDecoder::reset_fast_decode() {
-  m_value = utString();
-  m_length = 0;
-  m_count = 0;
 }
 
 void igsHolerithDecoder::store_character(char c) {

@@ -1,7 +1,7 @@
 // Field decoders: each turns the characters of one field into one value.
 #pragma once
 
-#include "input/igsIOError.h"
+#include "input/igsIOCodeList.h"
 #include "input/igsNumberText.h"
 #include "support/coNames.h"
 #include "support/utString.h"
@@ -30,7 +30,7 @@ class igsDecoder {
 
   int fast_decode_avail() const { return m_fast_available; }
   // Appends the recorded codes and forgets them.
-  void collect_errors(igsIOErrorcoDynArr& errors);
+  void collect_errors(igsIOErrorcoDynArr& errors) { m_errors.collect(errors); }
 
  protected:
   // Appends one character to the text; 0 if there was no room.
@@ -39,12 +39,7 @@ class igsDecoder {
   char* buffer() { return m_text.data(); }
   void reset() { m_text.shrink(0); }
   void reset_buffer() { m_text.shrink(0); }
-  void set_error(igsIOErrorCode code) {
-    unsigned bit = 1u << code;
-    if (m_recorded & bit) return;
-    m_recorded |= bit;
-    igs_add_io_error(m_errors, code);
-  }
+  void set_error(igsIOErrorCode code) { m_errors.record(code); }
   // A field that used any characters held a value.
   void check_for_default(char const*, int length) {
     if (length > 0) set_error(igsIOValuePresent);
@@ -56,8 +51,7 @@ class igsDecoder {
  private:
   int m_fast_available;
   charcoDynArr m_text;
-  igsIOErrorcoDynArr m_errors;
-  unsigned m_recorded = 0; // one bit for each code in the list
+  igsIOCodeList m_errors;
 };
 
 // The slow way of every decoder: a state machine over the characters of a field. Newline
@@ -117,10 +111,25 @@ class igsStateDecoder : public igsDecoder {
   State m_storing;
 };
 
-// Integer fields.
-class igsIntDecoder final : public igsStateDecoder {
+// A decoder with a value of its own, which goes back to its default when a field starts.
+template <class Value> class igsValueDecoder : public igsStateDecoder {
  public:
-  igsIntDecoder() : igsStateDecoder(1, storing_state) {}
+  void reset_fast_decode() override { m_value = Value(); }
+  void reset_slow_decode() override {
+    start();
+    m_value = Value();
+  }
+  Value const& decoded_value() const { return m_value; }
+
+ protected:
+  using igsStateDecoder::igsStateDecoder;
+  Value m_value{};
+};
+
+// Integer fields.
+class igsIntDecoder final : public igsValueDecoder<int> {
+ public:
+  igsIntDecoder() : igsValueDecoder(1, storing_state) {}
   int decode_fast(char const* text) override {
     char const* end = nullptr;
     m_value = igs_parse_int(text, end);
@@ -129,72 +138,48 @@ class igsIntDecoder final : public igsStateDecoder {
     check_for_default(text, used);
     return used;
   }
-  void reset_fast_decode() override { m_value = 0; }
-  void reset_slow_decode() override {
-    start();
-    m_value = 0;
-  }
-  int decoded_value() const { return m_value; }
 
  protected:
   void active_decode() override;
-
- private:
-  int m_value = 0;
 };
 
 // Real fields; a D exponent counts as an E.
-class igsDoubleDecoder final : public igsStateDecoder {
+class igsDoubleDecoder final : public igsValueDecoder<double> {
  public:
-  igsDoubleDecoder() : igsStateDecoder(1, storing_state) {}
+  igsDoubleDecoder() : igsValueDecoder(1, storing_state) {}
   int decode_fast(char const* text) override;
-  void reset_fast_decode() override { m_value = 0.0; }
-  void reset_slow_decode() override {
-    start();
-    m_value = 0.0;
-  }
-  double decoded_value() const { return m_value; }
 
  protected:
   void store_character(char c) override { add_to_buffer(c == 'D' || c == 'd' ? 'E' : c); }
   void active_decode() override;
-
- private:
-  double m_value = 0.0;
 };
 
 // Fixed-width text fields: the columns as they stand, blanks included.
-class igsStrDecoder final : public igsStateDecoder {
+class igsStrDecoder final : public igsValueDecoder<utString> {
  public:
-  igsStrDecoder() : igsStateDecoder(1, storing_string_state) {}
+  igsStrDecoder() : igsValueDecoder(1, storing_string_state) {}
   int decode_fast(char const* text) override;
-  void reset_fast_decode() override { m_value = utString(); }
-  void reset_slow_decode() override {
-    start();
-    m_value = utString();
-  }
-  utString const& decoded_value() const { return m_value; }
 
  protected:
   void string_character(char c) override;
   void active_decode() override;
-
- private:
-  utString m_value;
 };
 
 // Hollerith strings, "nH" and n characters. There is no fast way. A body shorter than declared
 // takes in the delimiters behind it; a longer one loses doubled blanks first, then its tail.
-class igsHolerithDecoder final : public igsStateDecoder {
+class igsHolerithDecoder final : public igsValueDecoder<utString> {
  public:
-  igsHolerithDecoder() : igsStateDecoder(0, storing_state) {}
+  igsHolerithDecoder() : igsValueDecoder(0, storing_state) {}
   void accept_character(char c, int& cont, int& check_delimiter) override;
-  void reset_fast_decode() override;
+  void reset_fast_decode() override {
+    igsValueDecoder::reset_fast_decode();
+    m_length = 0;
+    m_count = 0;
+  }
   void reset_slow_decode() override {
     start();
     reset_fast_decode();
   }
-  utString const& decoded_value() const { return m_value; }
   // Whether body characters are still due.
   int char_expected() const { return m_count < m_length; }
 
@@ -207,7 +192,6 @@ class igsHolerithDecoder final : public igsStateDecoder {
   void decode_holerith_length();
   utString truncate_string();
 
-  utString m_value;
   int m_length = 0;
   int m_count = 0;
 };

@@ -208,18 +208,8 @@ int igsInBufferChecker::num_lines(igsFileSection section) const {
   return m_line_counts[section];
 }
 
+// A bad back pointer and a missing section letter are fatal, and so would be code 11, which
+// nothing raises.
 void igsInBufferChecker::set_error(igsIOErrorCode code) {
-  if (code == igsIOBadBackpointer || code == igsIOBadSectionLetter || code == 11) m_fatal = 1;
-  igs_add_io_error(m_errors, code);
-}
-
-void igsInBufferChecker::collect_errors(igsIOErrorcoDynArr& errors) {
-  for (igsIOError const& e : m_errors) errors.append(e);
-  if (!m_fatal) m_errors.shrink(0);
-}
-
-int igsInBufferChecker::reset() {
-  if (m_fatal) return 0;
-  m_errors.shrink(0);
-  return 1;
+  m_errors.record(code, code == igsIOBadBackpointer || code == igsIOBadSectionLetter || code == 11);
 }

@@ -1,7 +1,7 @@
 // Checks the section letter, line number and back pointer of each record.
 #pragma once
 
-#include "input/igsIOError.h"
+#include "input/igsIOCodeList.h"
 #include "support/coNames.h"
 
 class igsInBuffer;
@@ -20,11 +20,11 @@ class igsInBufferChecker {
   // Checks the buffer's line and gives the number of data columns; may write a newline
   // (byte 10) at the data end. Returns 1 if the line is sound and continues the previous one.
   int check(igsInBuffer& buffer, int& data_end);
-  int fatal_error() const { return m_fatal; }
+  int fatal_error() const { return m_errors.fatal(); }
   // 0 if a fatal code is recorded; else forgets the codes and returns 1.
-  int reset();
+  int reset() { return m_errors.reset(); }
   // Appends the recorded codes; a checker without a fatal code then forgets them.
-  void collect_errors(igsIOErrorcoDynArr& errors);
+  void collect_errors(igsIOErrorcoDynArr& errors) { m_errors.collect(errors); }
   void position(igsFileSection& section, int& line) const {
     section = m_section;
     line = m_line_number;
@@ -55,6 +55,5 @@ class igsInBufferChecker {
   igsFileSection m_section = igsSectionStart;
   int m_line_number = 0;
   int m_backpointer = 0;
-  int m_fatal = 0;
-  igsIOErrorcoDynArr m_errors;
+  igsIOCodeList m_errors;
 };

@@ -555,18 +555,7 @@ int igsInBufferFiller::in_holerith_string(charcoDynArr const& line) const {
   return h + length >= size;
 }
 
+// A failed stream and the end of input are fatal.
 void igsInBufferFiller::set_error(igsIOErrorCode code) {
-  if (code >= igsIOStreamBad && code <= igsIOStreamFailed) m_fatal = 1;
-  igs_add_io_error(m_errors, code);
-}
-
-void igsInBufferFiller::collect_errors(igsIOErrorcoDynArr& errors) {
-  for (igsIOError const& e : m_errors) errors.append(e);
-  if (!m_fatal) m_errors.shrink(0);
-}
-
-int igsInBufferFiller::reset() {
-  if (m_fatal) return 0;
-  m_errors.shrink(0);
-  return 1;
+  m_errors.record(code, code >= igsIOStreamBad && code <= igsIOStreamFailed);
 }

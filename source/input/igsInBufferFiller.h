@@ -1,7 +1,7 @@
 // Fetches the bytes of one record from the stream and repairs them into 80 columns.
 #pragma once
 
-#include "input/igsIOError.h"
+#include "input/igsIOCodeList.h"
 #include "support/coNames.h"
 
 #include <istream>
@@ -24,10 +24,10 @@ class igsInBufferFiller {
   // Returns nonzero if the line is not empty.
   int get(igsInBuffer& buffer);
   // Appends the recorded codes; a filler without a fatal code then forgets them.
-  void collect_errors(igsIOErrorcoDynArr& errors);
-  int fatal_error() const { return m_fatal; }
+  void collect_errors(igsIOErrorcoDynArr& errors) { m_errors.collect(errors); }
+  int fatal_error() const { return m_errors.fatal(); }
   // 0 if a fatal code is recorded; else forgets the codes and returns 1.
-  int reset();
+  int reset() { return m_errors.reset(); }
   void set_param_delimiter(char c) { m_param_delimiter = c; }
   void set_record_delimiter(char c) { m_record_delimiter = c; }
 
@@ -92,8 +92,7 @@ class igsInBufferFiller {
   std::istream& m_stream;
   std::streambuf* m_source;
   std::ios::iostate m_state;
-  int m_fatal = 0;
-  igsIOErrorcoDynArr m_errors;
+  igsIOCodeList m_errors;
   int m_continuation = 0; // -1: not yet known for the record in m_line
   char m_param_delimiter = ',';
   char m_record_delimiter = ';';

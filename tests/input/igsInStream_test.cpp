@@ -35,19 +35,13 @@ struct Reader {
     stream.read_holerith(v);
     return std::string(v.view());
   }
-  int column() const {
+  int line() const { return where(0); }
+  int column() const { return where(1); }
+  int where(int which) const {
     igsFileSection section;
-    int line = 0;
-    int column = 0;
-    stream.position(section, line, column);
-    return column;
-  }
-  int line() const {
-    igsFileSection section;
-    int line = 0;
-    int column = 0;
-    stream.position(section, line, column);
-    return line;
+    int at[2] = {};
+    stream.position(section, at[0], at[1]);
+    return at[which];
   }
   std::istringstream in;
   igsInStream stream;
