@@ -26,6 +26,8 @@ class igsInStream : public igsInEngine {
   // The codes that stand after the last read, with where the cursor stood.
   igsIOErrorcoDynArr const& errors();
 
+  using igsInEngine::collect_errors;
+
   int reset() {
     m_collected = 0;
     return igsInEngine::reset();
