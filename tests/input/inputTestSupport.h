@@ -1,4 +1,4 @@
-// Helpers of the input tests: records made to measure, and walks that show what the line
+// Helpers of the input tests: records made to measure, and runs that show what the line
 // pipeline delivers and reports.
 #pragma once
 
@@ -10,12 +10,19 @@
 
 namespace igs_input_test {
 
+using Codes = std::vector<igsIOErrorCode>;
+using Lines = std::vector<std::string>;
+
+inline std::string repeat(char c, int n) {
+  return std::string(static_cast<size_t>(n), c);
+}
+
 // One 80-column record: the data padded to 72 columns, or in the Parameter section to 64
 // columns, a blank and the back pointer; then the letter and the right-justified number.
 inline std::string record(char letter, int number, std::string const& data, int backpointer = 0) {
   auto right = [](int value) {
     std::string digits = std::to_string(value);
-    return std::string(digits.size() < 7 ? 7 - digits.size() : 0, ' ') + digits;
+    return repeat(' ', 7 - static_cast<int>(digits.size())) + digits;
   };
   std::string line = data;
   if (letter == 'P') {
@@ -26,68 +33,78 @@ inline std::string record(char letter, int number, std::string const& data, int 
   return line + letter + right(number);
 }
 
-// The lines joined, each followed by the line end.
-inline std::string join(std::vector<std::string> const& lines, std::string const& end = "\n") {
+inline std::string with(std::string line, size_t at, char c) {
+  line[at] = c;
+  return line;
+}
+
+inline std::string join(Lines const& lines, std::string const& end = "\n") {
   std::string text;
   for (auto const& line : lines) text += line + end;
   return text;
 }
 
-// Gives the filler's records through a buffer of its own: what the filler delivers, before
-// the checker marks the data end.
+inline Codes codes_of(igsIOErrorcoDynArr const& errors) {
+  Codes codes;
+  for (auto const& e : errors) codes.push_back(e.error_type());
+  return codes;
+}
+
+// A buffer on an empty stream, whose line a filler of the test's own fills: what the filler
+// delivers, before the checker marks the data end.
 struct LineHolder : igsInBuffer {
-  explicit LineHolder(std::istream& empty) : igsInBuffer(empty) {}
+  LineHolder() : igsInBuffer(empty) {}
   std::string line() { return std::string(buffer().data(), static_cast<size_t>(buffer().size())); }
   using igsInBuffer::buffer;
+  static inline std::istringstream empty;
 };
 
 struct FillerRun {
-  std::vector<std::string> lines;
-  std::vector<std::vector<igsIOErrorCode>> codes; // recorded while each record was fetched
-  std::vector<igsIOErrorCode> end_codes;          // recorded by the fetch that found no record
+  Lines lines;
+  std::vector<Codes> codes; // recorded while each record was fetched
+  Codes end_codes;          // recorded by the fetch that found no record
 };
 
-// Every record that a filler delivers from the bytes.
-inline FillerRun fill(std::string const& bytes) {
-  std::istringstream in(bytes);
-  std::istringstream empty;
-  LineHolder holder(empty);
+// Every record that a filler delivers from the stream.
+inline FillerRun fill(std::istream& in) {
+  LineHolder holder;
   igsInBufferFiller filler(in);
   FillerRun run;
   for (int guard = 0; guard < 10000; ++guard) {
     int got = filler.get(holder);
     igsIOErrorcoDynArr errors;
     filler.collect_errors(errors);
-    std::vector<igsIOErrorCode> codes;
-    for (auto const& e : errors) codes.push_back(e.error_type());
     if (!got) {
-      run.end_codes = codes;
+      run.end_codes = codes_of(errors);
       break;
     }
     run.lines.push_back(holder.line());
-    run.codes.push_back(codes);
+    run.codes.push_back(codes_of(errors));
   }
   return run;
 }
 
-// A code with where it was collected, "igsIOLineSequence@G2:0".
-inline std::string describe(igsIOError const& e) {
-  return std::string(igs_io_error_name(e.error_type())) + "@" + igs_section_letter(e.section()) +
-         std::to_string(e.line()) + ":" + std::to_string(e.column());
+inline FillerRun fill(std::string const& bytes) {
+  std::istringstream in(bytes);
+  return fill(in);
 }
 
-inline std::vector<std::string> describe(igsIOErrorcoDynArr const& errors) {
-  std::vector<std::string> texts;
-  for (auto const& e : errors) texts.push_back(describe(e));
+// A code with where it was collected: "igsIOLineSequence@G2:0".
+inline Lines describe(igsIOErrorcoDynArr const& errors) {
+  Lines texts;
+  for (auto const& e : errors)
+    texts.push_back(std::string(igs_io_error_name(e.error_type())) + "@" +
+                    igs_section_letter(e.section()) + std::to_string(e.line()) + ":" +
+                    std::to_string(e.column()));
   return texts;
 }
 
 // Walks a stream line by line, reading no fields, and lists every code with its location.
 // A stop is ended with reset; the walk ends at a fatal code.
-inline std::vector<std::string> walk(std::string const& bytes) {
+inline Lines walk(std::string const& bytes) {
   std::istringstream in(bytes);
   igsInStream stream(in);
-  std::vector<std::string> events;
+  Lines events;
   for (int guard = 0; guard < 10000; ++guard) {
     for (auto const& text : describe(stream.errors())) events.push_back(text);
     if (stream.fatal_error() || (stream.frozen() && !stream.reset())) break;
@@ -97,7 +114,7 @@ inline std::vector<std::string> walk(std::string const& bytes) {
 }
 
 // A small sound file: two Start lines, one Global line, one entity.
-inline std::vector<std::string> sound_file() {
+inline Lines sound_file() {
   return {
       record('S', 1, "A small file made for the tests."),
       record('S', 2, "Second start line."),

@@ -8,16 +8,14 @@
 
 namespace {
 
-int const fatal_codes[] = {igsIOBadBackpointer, igsIOBadSectionLetter, igsIOStreamBad,
-                           igsIOEndOfFile, igsIOStreamFailed};
-
-// Fatal codes other than the end of input (13 and the 14 that its peek brings).
+// Fatal codes other than the end of input (13, and the 14 that its peek brings).
 std::vector<int> unexpected_fatal_codes(igsIOErrorcoDynArr const& errors) {
   std::vector<int> found;
-  for (auto const& e : errors)
-    for (int code : fatal_codes)
-      if (e.error_type() == code && code != igsIOEndOfFile && code != igsIOStreamFailed)
-        found.push_back(code);
+  for (auto const& e : errors) {
+    igsIOErrorCode code = e.error_type();
+    if (code == igsIOBadBackpointer || code == igsIOBadSectionLetter || code == igsIOStreamBad)
+      found.push_back(code);
+  }
   return found;
 }
 
