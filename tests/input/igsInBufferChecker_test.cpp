@@ -43,12 +43,23 @@ struct WalkCase {
   Lines events;
 };
 
+Lines const sound_events = Lines{"igsIOSectionEnd@G1:0", "igsIOSectionEnd@D1:0",
+                                 "igsIOSectionEnd@P1:0", "igsIOSectionEnd@T1:0"} +
+                           end_of_input("T1");
+
 std::vector<WalkCase> const walk_cases = {
     // Every new section stops the buffer at column 1 with code 6.
-    {"a sound file", join(file),
-     Lines{"igsIOSectionEnd@G1:0", "igsIOSectionEnd@D1:0", "igsIOSectionEnd@P1:0",
-           "igsIOSectionEnd@T1:0"} +
-         end_of_input("T1")},
+    {"a sound file", join(file), sound_events},
+    // Repairs of the line layout record nothing.
+    {"no line ends at all", join(file, ""), sound_events},
+    {"folded and run-together records",
+     s1 + s2 + "\n" + g1 + "\n" + d1.substr(0, 40) + "\n" + d1.substr(41) + "\n" + d2 + "\n" +
+         file[5] + "\n" + t1.substr(0, 75) + "\r\n" + t1.substr(75),
+     sound_events},
+    {"a lost decimal point",
+     join({d1, d2, record('P', 1, "126,1,1,0,0,1,0,0.,0.,1.,1., ", 1),
+           record('P', 2, ".5,0.5,0.,0.;", 1).substr(1)}),
+     Lines{"igsIOSectionEnd@D1:0", "igsIOSectionEnd@P1:0"} + end_of_input("P2")},
     {"damage of every kind",
      s1 + "\r\n" + s2 + "\r\n" + g1.substr(0, 40) + '\0' + g1.substr(41) + "\r\n" + d1 +
          "\r\n\r\n" + d2 + "\r\n" + file[5].substr(0, 30) + "\t" + file[5].substr(31) + "\r\n" + t1,
@@ -95,6 +106,7 @@ std::vector<WalkCase> const walk_cases = {
 };
 
 TEST(igsInBufferChecker, ReportsEveryLine) {
+  WarningCatcher warnings;
   for (auto const& c : walk_cases) {
     SCOPED_TRACE(c.what);
     EXPECT_EQ(walk(c.bytes), c.events);
@@ -166,6 +178,38 @@ TEST(igsInBufferChecker, BackPointersOfWideLines) {
   for (int& v : values) stream2.read_integer(v);
   EXPECT_EQ(values[2], 3); // not 9
   EXPECT_EQ(describe(stream2.errors()), Lines{"igsIOValuePresent@P2:2"});
+}
+
+// Lines that the filler never delivers, given to a checker directly.
+TEST(igsInBufferChecker, ChecksLinesItIsGiven) {
+  LineHolder holder;
+  igsInBufferChecker checker;
+  auto check = [&](std::string const& text, int& data_end) {
+    charcoDynArr& line = holder.buffer();
+    line.shrink(0);
+    for (char c : text) line.append(c);
+    line.append('\0');
+    line.shrink(static_cast<int>(text.size()));
+    return checker.check(holder, data_end);
+  };
+  int data_end = -1;
+  // A blank sequence field, first of a new section: code 8, and the number 0 stands.
+  EXPECT_FALSE(check(with_sequence(g1, "       "), data_end));
+  igsFileSection section;
+  int line = -1;
+  checker.position(section, line);
+  EXPECT_EQ(section, igsSectionGlobal);
+  EXPECT_EQ(line, 0);
+  EXPECT_EQ(data_end, 73); // one past the newline that took the letter's place
+  EXPECT_EQ(holder.buffer()[72], '\n');
+  igsIOErrorcoDynArr errors;
+  checker.collect_errors(errors);
+  EXPECT_EQ(codes_of(errors), (Codes{igsIOBadLineNumber, igsIOLineSequence, igsIOSectionEnd}));
+  // A Parameter line one column short: the data end is the first blank left of the letter.
+  EXPECT_TRUE(checker.reset());
+  EXPECT_FALSE(check(record('P', 1, "1;", 12).erase(0, 1), data_end));
+  EXPECT_EQ(data_end, 68);
+  EXPECT_EQ(checker.backpointer(), 12);
 }
 
 int callback_count = 0;

@@ -1,7 +1,5 @@
 #include "inputTestSupport.h"
 
-#include "support/kvnabs.h"
-
 #include <gtest/gtest.h>
 
 #include <algorithm>
@@ -11,13 +9,6 @@ using namespace igs_input_test;
 namespace {
 
 Codes const end_of_input = {igsIOEndOfFile, igsIOStreamFailed};
-
-// Catches the line-level warnings that go to the process-wide error sink.
-struct WarningCatcher {
-  WarningCatcher() { get_igs_stream().set_error_stream(&sink); }
-  ~WarningCatcher() { get_igs_stream().set_error_stream(nullptr); }
-  kvnabsStringOutput sink;
-};
 
 struct LineCase {
   char const* what;

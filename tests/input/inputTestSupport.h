@@ -3,6 +3,7 @@
 #pragma once
 
 #include "input/igsInStream.h"
+#include "support/kvnabs.h"
 
 #include <sstream>
 #include <string>
@@ -112,6 +113,13 @@ inline Lines walk(std::string const& bytes) {
   }
   return events;
 }
+
+// Catches the line-level warnings that go to the process-wide error sink.
+struct WarningCatcher {
+  WarningCatcher() { get_igs_stream().set_error_stream(&sink); }
+  ~WarningCatcher() { get_igs_stream().set_error_stream(nullptr); }
+  kvnabsStringOutput sink;
+};
 
 // A small sound file: two Start lines, one Global line, one entity.
 inline Lines sound_file() {
