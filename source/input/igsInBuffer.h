@@ -29,7 +29,7 @@ class igsInBuffer {
   }
 
   // Fetches and checks the next line; the cursor goes to its first column and freezes there
-  // if the line failed its check or none came.
+  // if the line failed its check or none came. A stopped buffer stays stopped on the new line.
   void get_next_line();
   void skip_line() { get_next_line(); }
   void freeze();
