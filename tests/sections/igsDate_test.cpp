@@ -101,6 +101,12 @@ TEST_F(igsDateTest, MalformedTextIsRefused) {
       "25JA01.120000",    // letters in the month
       "20250101.12AB00",  // letters in the minute
       "2025..01.120000",  // a "." in the month
+      "-50101.120000",    // a sign in the year
+      "+50101.120000",    // a sign in the year
+      " 50101.120000",    // a blank in the year
+      "2025 101.120000",  // a blank in the month
+      "20250101.12 000",  // a blank in the minute
+      "20250101.-10000",  // a sign in the hour
   };
   for (char const* text : refused) {
     int ok = 1;
