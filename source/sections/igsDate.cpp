@@ -31,8 +31,12 @@ int this_year() {
   return year;
 }
 
-// Reads the field of `length` characters at `start`; leaves `value` alone if it is no number.
+// Reads the field of `length` digits at `start`; leaves `value` alone if it is no number.
+// Signs and blanks, which a number may otherwise carry, are refused: "-50101.120000" is no
+// date of 1995.
 int decode_field(utString const& text, int start, int length, int& value) {
+  for (int i = start; i < start + length; ++i)
+    if (text[i] < '0' || text[i] > '9') return 0;
   int decoded = 0;
   if (!utString(text, start, length).parse(decoded)) return 0;
   value = decoded;

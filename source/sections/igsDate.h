@@ -35,6 +35,7 @@ class igsDate {
   // 4 divides.
   static int check_day_against_month(int day, int month, int year);
   // Sets the six parts to -1 and decodes what it can; returns 1 if the whole text was decoded.
+  // Every field is digits alone.
   // A two-digit year yy is 1900 + yy, or 2000 + yy when 2000 + yy is not after this year.
   static int decode_date_string(utString const& date_string, int& year, int& month, int& day,
                                 int& hour, int& minute, int& second);

@@ -15,8 +15,8 @@ class igsUnits {
   // The flag of units that were left out.
   static constexpr int unset_flag = -2147483647; // 0x80000001, the unset int
 
-  // A flag alone has a null name.
-  explicit igsUnits(int type = unset_flag) : m_type(type) {}
+  // A flag alone has an empty name, as a Global section that leaves the name out reads.
+  explicit igsUnits(int type = unset_flag) : m_type(type), m_name("") {}
   igsUnits(utString const& name, int type) : m_type(type), m_name(name) {}
   igsUnits(igsUnits const& other) { become(other); }
   igsUnits& operator=(igsUnits const& other) {

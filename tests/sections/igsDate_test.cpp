@@ -59,6 +59,10 @@ TEST_F(igsDateTest, BothFormsDecode) {
   EXPECT_EQ(ok, 1);
   EXPECT_EQ(decode("19870615.093007", &ok), (Parts{1987, 6, 15, 9, 30, 7}));
   EXPECT_EQ(ok, 1);
+  // Decoding judges the form alone; the year limits are the check's.
+  EXPECT_EQ(decode("19791231.235959", &ok), (Parts{1979, 12, 31, 23, 59, 59}));
+  EXPECT_EQ(ok, 1);
+  EXPECT_EQ(igsDate::check_date_string("19791231.235959"), 0);
 
   igsDate date(utString("870615.093007"));
   Parts p;
@@ -101,6 +105,12 @@ TEST_F(igsDateTest, MalformedTextIsRefused) {
       "25JA01.120000",    // letters in the month
       "20250101.12AB00",  // letters in the minute
       "2025..01.120000",  // a "." in the month
+      "-50101.120000",    // a sign in the year
+      "+50101.120000",    // a sign in the year
+      " 50101.120000",    // a blank in the year
+      "2025 101.120000",  // a blank in the month
+      "20250101.12 000",  // a blank in the minute
+      "20250101.-10000",  // a sign in the hour
   };
   for (char const* text : refused) {
     int ok = 1;

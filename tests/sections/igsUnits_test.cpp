@@ -110,11 +110,13 @@ TEST(igsUnits, FlagAndNameAgreement) {
 TEST(igsUnits, FlagAndNameTravelTogether) {
   igsUnits left_out;
   EXPECT_EQ(left_out.type(), igsUnits::unset_flag);
-  EXPECT_TRUE(left_out.name().is_null());
+  EXPECT_FALSE(left_out.name().is_null());
+  EXPECT_EQ(left_out.name(), "");
 
   igsUnits flag_only(6);
   EXPECT_EQ(flag_only.type(), 6);
-  EXPECT_TRUE(flag_only.name().is_null());
+  EXPECT_FALSE(flag_only.name().is_null());
+  EXPECT_EQ(flag_only.name(), "");
 
   igsUnits both("FT", 4);
   igsUnits copy(both);
