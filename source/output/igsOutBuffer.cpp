@@ -12,14 +12,19 @@ igsOutBufferPurger::~igsOutBufferPurger() {
 
 int igsOutBufferPurger::purge(igsOutBuffer& buffer) {
   std::ostream* out = m_destination;
+  int written = 1;
   // The line goes straight to the stream buffer in one piece. A stream that failed before
   // takes nothing, as the stream's own output functions would do.
   if (out && !(out->rdstate() & (std::ios::badbit | std::ios::failbit))) {
     std::streambuf* target = out->rdbuf();
     std::streamsize const size = igsOutBuffer::line_size + 1;
-    if (!target || target->sputn(buffer.m_line, size) != size) mark_bad();
+    if (!target || target->sputn(buffer.m_line, size) != size) {
+      mark_bad();
+      written = 0;
+    }
   }
-  return stream_valid();
+  int valid = stream_valid();
+  return valid && written;
 }
 
 void igsOutBufferPurger::set_destination(std::ostream* destination) {

@@ -46,6 +46,15 @@ inline Lines written(std::function<void(igsOutStream&)> const& fill) {
   return lines_of(out.str());
 }
 
+inline Codes codes_of_stream(igsOutStream& stream) {
+  return igs_input_test::codes_of(stream.errors());
+}
+
+// The codes of the stream with where they were collected: "igsIOStreamBad@P3:0".
+inline Lines describe_codes(igsOutStream& stream) {
+  return igs_input_test::describe(stream.errors());
+}
+
 // Takes `limit` bytes, then refuses everything; optionally its sync fails too.
 class FailingBuf : public std::streambuf {
  public:
