@@ -37,27 +37,40 @@ utString const& igsEncoder::get_string(int i) const {
   return m_items[i];
 }
 
-void igsEncoder::append_text(char const* text, int length, int split_flag) {
-  int start = m_text.size();
-  if (length < 0) length = 0;
-  // A field that cannot get its store loses no earlier piece: it is left out whole.
-  if (!m_text.expand(start + length)) return;
-  if (length > 0) std::memcpy(m_text.data() + start, text, static_cast<size_t>(length));
-  if (!m_ends.append(start + length)) {
-    m_text.shrink(start);
-    return;
+char* igsEncoder::text_room(int n) {
+  if (n < 0) return nullptr;
+  if (m_used + n > m_text.size()) {
+    int grown = 2 * m_text.size();
+    if (grown < 64) grown = 64;
+    if (!m_text.expand(m_used + n > grown ? m_used + n : grown)) return nullptr;
   }
+  return m_text.data() + m_used;
+}
+
+void igsEncoder::add_piece(int n, int split_flag) {
+  // A piece that cannot get its entries is left out whole, and no earlier piece is lost.
+  if (!m_ends.append(m_used + n)) return;
   if (!m_split_flags.append(split_flag)) {
     m_ends.remove_last();
-    m_text.shrink(start);
+    return;
   }
+  m_used += n;
+}
+
+void igsEncoder::append_text(char const* text, int length, int split_flag) {
+  if (length < 0) length = 0;
+  char* at = text_room(length);
+  if (!at) return;
+  if (length > 0) std::memcpy(at, text, static_cast<size_t>(length));
+  add_piece(length, split_flag);
 }
 
 void igsIntEncoder::encode(int value) {
   m_value = value;
-  char text[16];
-  auto printed = std::to_chars(text, text + sizeof text, value);
-  append_text(text, static_cast<int>(printed.ptr - text), 0);
+  char* text = text_room(16);
+  if (!text) return;
+  auto printed = std::to_chars(text, text + 16, value);
+  add_piece(static_cast<int>(printed.ptr - text), 0);
 }
 
 igsDoubleEncoder::igsDoubleEncoder() {
@@ -83,20 +96,16 @@ void igsDoubleEncoder::pop_format() {
 
 namespace {
 
-// The text that printf's "%.<precision>G" gives for the value, without its padding. The
-// digits come from std::to_chars, which prints exactly what printf prints for the same
-// precision but in lower case and far faster. A negative precision counts as none given (6),
-// as in printf; a precision whose text could not fit is cut to the largest that fits.
+// The text that printf's "%.<precision>G" gives for the value, without its padding, but in
+// lower case. The digits come from std::to_chars, which prints exactly what printf prints for
+// the same precision, far faster. A negative precision counts as none given (6), as in
+// printf; a precision whose text could not fit is cut to the largest that fits.
 int print_real(double value, int precision, char* text, int size) {
   if (precision < 0) precision = 6;
   int const widest = size - 16; // sign, "0.000", exponent and spare
   if (precision > widest) precision = widest;
   auto printed = std::to_chars(text, text + size, value, std::chars_format::general, precision);
-  if (printed.ec != std::errc()) return 0;
-  int n = static_cast<int>(printed.ptr - text);
-  for (int i = 0; i < n; ++i)
-    if (text[i] >= 'a' && text[i] <= 'z') text[i] = static_cast<char>(text[i] - 'a' + 'A');
-  return n;
+  return printed.ec == std::errc() ? static_cast<int>(printed.ptr - text) : 0;
 }
 
 } // namespace
@@ -104,30 +113,38 @@ int print_real(double value, int precision, char* text, int size) {
 void igsDoubleEncoder::encode(double value) {
   m_value = value;
   // The format pads on the right with blanks that the trim would cut again, so the text is
-  // printed without them: only the precision shows.
-  char text[max_text + 2];
+  // printed without them: only the precision shows. It is printed straight into the room of
+  // the piece, with one byte to spare for a point.
+  char* text = text_room(max_text + 1);
+  if (!text) return;
   int n = print_real(value, m_precisions.peek(), text, max_text);
+  // One pass: note the point, make the exponent a D, and the rest upper case as "%G" has it
+  // ("INF", "NAN").
   bool point = false;
   int exponent = -1;
   for (int i = 0; i < n; ++i) {
-    if (text[i] == '.') {
+    char c = text[i];
+    if (c == '.') {
       point = true;
-    } else if (text[i] == 'E') {
+    } else if (c == 'e') {
       text[i] = 'D';
       exponent = i;
+    } else if (c >= 'a' && c <= 'z') {
+      text[i] = static_cast<char>(c - 'a' + 'A');
     }
   }
   if (!point) {
     int at = exponent >= 0 ? exponent : n;
-    std::memmove(text + at + 1, text + at, static_cast<size_t>(n - at));
+    for (int i = n; i > at; --i) text[i] = text[i - 1];
     text[at] = '.';
     ++n;
   }
-  if (n == 3 && std::memcmp(text, "-0.", 3) == 0) {
-    append_text("0.", 2, 0);
-    return;
+  if (n == 3 && text[0] == '-' && text[1] == '0' && text[2] == '.') {
+    text[0] = '0';
+    text[1] = '.';
+    n = 2;
   }
-  append_text(text, n, 0);
+  add_piece(n, 0);
 }
 
 void igsStrEncoder::encode(utString const& value) {

@@ -26,7 +26,7 @@ class igsEncoder {
   int get_split_flag(int i) const { return i >= 0 && i < num_items() ? m_split_flags[i] : 0; }
   // Empties the pieces and their flags.
   void reset() {
-    m_text.shrink(0);
+    m_used = 0;
     m_ends.shrink(0);
     m_split_flags.shrink(0);
     m_made = 0;
@@ -41,9 +41,15 @@ class igsEncoder {
     append_text(text.c_str(), text.length(), split_flag);
   }
   void append_text(char const* text, int length, int split_flag);
+  // Room for n more bytes behind the pieces, into which an encoder may print its text
+  // directly; null if the store cannot grow.
+  char* text_room(int n);
+  // Makes the next n bytes of the room one piece.
+  void add_piece(int n, int split_flag);
 
  private:
-  charcoDynArr m_text;              // the bytes of all pieces, one behind the other
+  charcoDynArr m_text;              // the store of the pieces' bytes; only ever grows
+  int m_used = 0;                   // the bytes of the pieces, one behind the other
   intcoDynArr m_ends;               // where each piece ends in m_text
   utBoolcoDynArr m_split_flags;     // one for each piece
   mutable utStringcoDynArr m_items; // strings of the first m_made pieces, made on request

@@ -129,7 +129,7 @@ igsOutBuffer::~igsOutBuffer() {
   finish_line();
 }
 
-void igsOutBuffer::append(char const* text, int n) {
+void igsOutBuffer::append_across(char const* text, int n) {
   while (n > 0 && !m_frozen) {
     int room = free_space();
     int part = n < room ? n : room;

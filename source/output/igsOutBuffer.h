@@ -5,6 +5,7 @@
 #include "input/igsIOCodeList.h"
 #include "input/igsIOError.h"
 
+#include <cstring>
 #include <iosfwd>
 
 class igsOutBuffer;
@@ -114,7 +115,14 @@ class igsOutBuffer {
   // Copies the text to the cursor and moves it on. Text that runs past the end of the data
   // columns goes on at the start of the next line, so nothing is written outside the line.
   // Does nothing while frozen.
-  void append(char const* text, int n);
+  void append(char const* text, int n) {
+    if (!m_frozen && static_cast<unsigned int>(n) < static_cast<unsigned int>(m_end - m_cursor)) {
+      std::memcpy(m_cursor, text, static_cast<size_t>(n));
+      m_cursor += n;
+    } else {
+      append_across(text, n);
+    }
+  }
 
   int capacity() const { return line_size; }
   // The data columns of the section: 64 in the Parameter section, 72 in the others, 80 before
@@ -156,6 +164,8 @@ class igsOutBuffer {
 
   void prepare_for_next_line();
   void clean_buffer();
+  // The text that reaches the end of the line, over as many lines as it takes.
+  void append_across(char const* text, int n);
   static void count_bools(int flag, int& count) {
     if (flag) ++count;
   }
