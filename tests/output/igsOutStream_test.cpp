@@ -199,6 +199,7 @@ TEST(igsOutStream, WritesTheSampleFileOfTheReader) {
 TEST(igsOutStream, FailingStreamFreezesUntilCollectedAndReset) {
   FailingBuf failing(2 * 81 + 10);
   std::ostream out(&failing);
+  std::ostringstream good; // the destination taken later, which must outlive the stream
   igsOutStream s(&out);
   s.set_section(igsSectionParameter);
   for (int i = 0; i < 40; ++i) s.write_integer(1000 + i); // 40 fields of 5: four lines
@@ -228,7 +229,6 @@ TEST(igsOutStream, FailingStreamFreezesUntilCollectedAndReset) {
   EXPECT_TRUE(s.frozen());
   EXPECT_TRUE(s.error_type(igsIOStreamFailed));
   // A new destination takes the lines from there on; the numbers and the record run on.
-  std::ostringstream good;
   s.set_destination(&good);
   EXPECT_EQ(s.reset(), 1);
   s.write_integer(7);
