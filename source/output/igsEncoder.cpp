@@ -9,15 +9,6 @@
 
 namespace {
 
-// The bytes of the value in the output encoding. The store is the encoder's own, kept for the
-// next field; a text that the conversion leaves as it was is shared, not copied.
-utString converted(utString const& value, charcoDynArr& bytes) {
-  kvaString(value).convert(kvaStringOutputDefault, bytes);
-  std::string_view text(bytes.data(), static_cast<size_t>(bytes.size()));
-  if (text == value.view() && !value.is_null()) return value;
-  return utString(text);
-}
-
 // Writes the decimal digits of a non-negative count, then `suffix`; returns the length.
 int print_count(char* text, size_t size, size_t count, char suffix) {
   auto printed = std::to_chars(text, text + size - 1, count);
@@ -147,13 +138,23 @@ void igsDoubleEncoder::encode(double value) {
   add_piece(n, 0);
 }
 
+// A text that the conversion leaves as it was is shared, not copied.
+void igsTextEncoder::convert(utString const& value) {
+  kvaString(value).convert(kvaStringOutputDefault, m_bytes);
+  std::string_view text(m_bytes.data(), static_cast<size_t>(m_bytes.size()));
+  if (text == value.view() && !value.is_null())
+    m_value = value;
+  else
+    m_value = utString(text);
+}
+
 void igsStrEncoder::encode(utString const& value) {
-  m_value = converted(value, m_bytes);
+  convert(value);
   append_string(m_value, 0);
 }
 
 void igsHolerithEncoder::encode(utString const& value) {
-  m_value = converted(value, m_bytes);
+  convert(value);
   utString body = m_value.remove_trailing_chars(" \f\n\r\t\v");
   char prefix[24];
   append_text(prefix, print_count(prefix, sizeof prefix, static_cast<size_t>(body.length()), 'H'),

@@ -103,35 +103,43 @@ class igsDoubleEncoder : public igsEncoder {
   intcoStack m_precisions; // the precision of each format, beside it
 };
 
+// The text encoders: the value is the text in the output encoding.
+class igsTextEncoder : public igsEncoder {
+ public:
+  utString const& value() const { return m_value; }
+
+ protected:
+  igsTextEncoder() = default;
+  igsTextEncoder(igsTextEncoder const&) = default;
+  igsTextEncoder& operator=(igsTextEncoder const&) = default;
+  // Converts the text into the output encoding and keeps it as the value.
+  void convert(utString const& value);
+
+  utString m_value;
+
+ private:
+  charcoDynArr m_bytes; // conversion store, kept for the next field
+};
+
 // Fixed-width text, as it stands.
-class igsStrEncoder : public igsEncoder {
+class igsStrEncoder : public igsTextEncoder {
  public:
   igsStrEncoder() = default;
   void encode(utString const& value);
-  utString const& value() const { return m_value; }
 
  protected:
   igsStrEncoder(igsStrEncoder const&) = default;
   igsStrEncoder& operator=(igsStrEncoder const&) = default;
-
- private:
-  utString m_value;
-  charcoDynArr m_bytes; // conversion store, kept for the next field
 };
 
 // Hollerith strings: "nH" and the n characters of the body, trailing white space cut. The
 // prefix is never broken across lines; the body may be.
-class igsHolerithEncoder : public igsEncoder {
+class igsHolerithEncoder : public igsTextEncoder {
  public:
   igsHolerithEncoder() = default;
   void encode(utString const& value);
-  utString const& value() const { return m_value; }
 
  protected:
   igsHolerithEncoder(igsHolerithEncoder const&) = default;
   igsHolerithEncoder& operator=(igsHolerithEncoder const&) = default;
-
- private:
-  utString m_value;
-  charcoDynArr m_bytes;
 };
