@@ -116,6 +116,7 @@ class igsOutBuffer {
   // columns goes on at the start of the next line, so nothing is written outside the line.
   // Does nothing while frozen.
   void append(char const* text, int n) {
+    if (n <= 0) return;
     if (!m_frozen && static_cast<unsigned int>(n) < static_cast<unsigned int>(m_end - m_cursor)) {
       std::memcpy(m_cursor, text, static_cast<size_t>(n));
       m_cursor += n;

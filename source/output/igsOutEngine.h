@@ -40,7 +40,9 @@ class igsOutEngine : public igsOutBuffer {
 
  protected:
   // The text on one line: if the length (which may count a column kept for a delimiter) is
-  // more than is left of the line, the line is finished first.
+  // more than is left of the line, the line is finished first. A text longer than a whole
+  // line (only a fixed field wider than the line can be) starts where the cursor stands
+  // rather than leave a blank line behind.
   void single_line_encode(std::string_view text, int length) {
     if (length > free_space() && !at_line_start()) *this += static_cast<unsigned int>(free_space());
     append(text.data(), static_cast<int>(text.size()));
