@@ -1,5 +1,4 @@
-#include "output/igsEncoder.h"
-#include "support/coResource.h"
+#include "outputTestSupport.h"
 
 #include <gtest/gtest.h>
 
@@ -11,6 +10,8 @@
 #include <random>
 #include <string>
 #include <vector>
+
+using igs_output_test::KeyOverride;
 
 namespace {
 
@@ -59,16 +60,6 @@ std::string reference(char const* format, double value) {
   if (s.find('.') == std::string::npos) s.insert(e != std::string::npos ? e : s.size(), ".");
   return s == "-0." ? "0." : s;
 }
-
-// Sets an integer key for one test and puts it back afterwards.
-struct KeyOverride {
-  KeyOverride(intcoResourceKey const& key, int value) : m_key(key), m_old(key.value()) {
-    kvn_resource_table_inquire()->set(key, value);
-  }
-  ~KeyOverride() { kvn_resource_table_inquire()->set(m_key, m_old); }
-  intcoResourceKey const& m_key;
-  int m_old;
-};
 
 TEST(igsIntEncoder, DecimalTextInOnePiece) {
   igsIntEncoder e;

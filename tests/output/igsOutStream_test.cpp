@@ -196,6 +196,27 @@ TEST(igsOutStream, WritesTheSampleFileOfTheReader) {
   EXPECT_EQ(out.str(), igs_input_test::join(igs_input_test::sound_file()));
 }
 
+TEST(igsOutStream, RealsFollowThePrecisionKeys) {
+  // Geometric values take the precision the stream was made with; parametric ones the
+  // format pushed around them, as the entity writers do.
+  KeyOverride geometric(kvnOptDoubleGeometricPrecision, 6);
+  KeyOverride parametric(kvnOptDoubleParametricPrecision, 9);
+  double const pi = 3.14159265358979;
+  Lines lines = written([&](igsOutStream& s) {
+    s.set_section(igsSectionParameter);
+    s.write_double(pi);
+    s.push_double_format(kvnOptDoubleFieldWidth.value(), kvnOptDoubleParametricPrecision.value());
+    s.write_double(pi);
+    s.write_double(-1e-10 * pi);
+    s.pop_double_format();
+    s.write_double(pi);
+    s.pop_double_format(); // one pop too many changes nothing
+    s.write_double(pi);
+    s.set_backpointer(3);
+  });
+  EXPECT_EQ(lines, Lines{record('P', 1, "3.14159,3.14159265,-3.14159265D-10,3.14159,3.14159;", 1)});
+}
+
 TEST(igsOutStream, FailingStreamFreezesUntilCollectedAndReset) {
   FailingBuf failing(2 * 81 + 10);
   std::ostream out(&failing);

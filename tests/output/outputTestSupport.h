@@ -4,6 +4,7 @@
 
 #include "input/inputTestSupport.h"
 #include "output/igsOutStream.h"
+#include "support/coResource.h"
 
 #include <functional>
 #include <sstream>
@@ -54,6 +55,16 @@ inline Codes codes_of_stream(igsOutStream& stream) {
 inline Lines describe_codes(igsOutStream& stream) {
   return igs_input_test::describe(stream.errors());
 }
+
+// Sets an integer key for one test and puts it back afterwards.
+struct KeyOverride {
+  KeyOverride(intcoResourceKey const& key, int value) : m_key(key), m_old(key.value()) {
+    kvn_resource_table_inquire()->set(key, value);
+  }
+  ~KeyOverride() { kvn_resource_table_inquire()->set(m_key, m_old); }
+  intcoResourceKey const& m_key;
+  int m_old;
+};
 
 // Takes `limit` bytes, then refuses everything; optionally its sync fails too.
 class FailingBuf : public std::streambuf {
