@@ -1,0 +1,367 @@
+#include "outputTestSupport.h"
+
+#include <gtest/gtest.h>
+
+using namespace igs_output_test;
+
+namespace {
+
+std::string A(int n) {
+  return repeat('A', n);
+}
+
+// 0123456789012... : a body whose every column can be told apart.
+std::string digits(int n) {
+  std::string s;
+  for (int i = 0; i < n; ++i) s += static_cast<char>('0' + i % 10);
+  return s;
+}
+
+struct LayoutCase {
+  char const* what;
+  std::function<void(igsOutStream&)> fill;
+  Lines expected;
+};
+
+std::vector<LayoutCase> const layout_cases = {
+    {"a number that would end in column 64 moves whole, with its delimiter's column",
+     [](igsOutStream& s) {
+       s.set_section(igsSectionParameter);
+       s.write_holerith(A(57).c_str()); // columns 1 to 60
+       s.write_integer(123);
+       s.set_backpointer(3);
+     },
+     {record('P', 1, "57H" + A(57) + ",", 1), record('P', 2, "123;", 1)}},
+    {"a number ending in column 63 stays, and its record delimiter takes column 64",
+     [](igsOutStream& s) {
+       s.set_section(igsSectionParameter);
+       s.write_holerith(A(57).c_str());
+       s.write_integer(12);
+       s.set_backpointer(3);
+     },
+     {record('P', 1, "57H" + A(57) + ",12;", 1)}},
+    {"a delimiter in the last data column finishes the line",
+     [](igsOutStream& s) {
+       s.set_section(igsSectionParameter);
+       s.write_holerith(A(60).c_str()); // columns 1 to 63
+       s.write_integer(7);
+       s.set_backpointer(3);
+     },
+     {record('P', 1, "60H" + A(60) + ",", 1), record('P', 2, "7;", 1)}},
+    {"a Hollerith body runs on over the line end with no gap",
+     [](igsOutStream& s) {
+       s.set_section(igsSectionParameter);
+       s.write_integer(1);
+       s.write_holerith(digits(100).c_str());
+       s.set_backpointer(3);
+     },
+     {record('P', 1, "1,100H" + digits(100).substr(0, 58), 1),
+      record('P', 2, digits(100).substr(58) + ";", 1)}},
+    {"an nH prefix that does not fit moves to the next line with its body",
+     [](igsOutStream& s) {
+       s.set_section(igsSectionParameter);
+       s.write_holerith(A(59).c_str()); // columns 1 to 62, the delimiter in 63
+       s.write_holerith("ABCDE");
+       s.set_backpointer(3);
+     },
+     {record('P', 1, "59H" + A(59) + ",", 1), record('P', 2, "5HABCDE;", 1)}},
+    {"a record delimiter behind a field that ends in the last data column",
+     [](igsOutStream& s) {
+       s.set_section(igsSectionParameter);
+       s.write_holerith(A(61).c_str());
+       s.set_backpointer(3);
+     },
+     {record('P', 1, "61H" + A(61), 1), record('P', 2, ";", 1)}},
+    {"sequence numbers run on over records, each line with its record's back pointer",
+     [](igsOutStream& s) {
+       s.set_section(igsSectionParameter);
+       s.write_integer(110);
+       s.write_double(0.0);
+       s.write_double(1.5);
+       s.set_backpointer(3);
+       s.write_integer(116);
+       s.set_backpointer(5);
+       s.write_integer(126);
+       for (int i = 0; i < 14; ++i) s.write_double(1.25);
+       s.set_backpointer(7);
+     },
+     {record('P', 1, "110,0.,1.5;", 1), record('P', 2, "116;", 3),
+      record('P', 3, "126,1.25,1.25,1.25,1.25,1.25,1.25,1.25,1.25,1.25,1.25,1.25,1.25,", 5),
+      record('P', 4, "1.25,1.25;", 5)}},
+    {"other delimiters",
+     [](igsOutStream& s) {
+       s.set_section(igsSectionParameter);
+       s.set_delimiters("|", "#");
+       s.write_integer(1);
+       s.write_double(2.5);
+       s.write_holerith("A,B");
+       s.set_backpointer(3);
+       s.write_double(-1e-20);
+       s.set_backpointer(5);
+     },
+     {record('P', 1, "1|2.5|3HA,B#", 1), record('P', 2, "-1.D-20#", 3)}},
+    {"an empty Global field is 0H, and leaving the section ends its record",
+     [](igsOutStream& s) {
+       s.set_section(igsSectionGlobal);
+       s.write_holerith(",");
+       s.write_holerith(";");
+       s.write_holerith("");
+       s.write_integer(5);
+       s.write_double(1e20);
+       s.set_section(igsSectionDirectory);
+     },
+     {record('G', 1, "1H,,1H;,0H,5,1.D+20;")}},
+    {"a Global record delimiter in column 1 behind a full line",
+     [](igsOutStream& s) {
+       s.set_section(igsSectionGlobal);
+       s.write_holerith(A(69).c_str()); // all 72 columns
+       s.set_section(igsSectionTerminate);
+     },
+     {record('G', 1, "69H" + A(69)), record('G', 2, ";")}},
+    {"changing the section with nothing written sends no line",
+     [](igsOutStream& s) {
+       s.set_section(igsSectionStart);
+       s.set_section(igsSectionDirectory);
+       s.set_section(igsSectionParameter);
+       s.set_backpointer(3); // no line started: only the record delimiter
+       s.set_section(igsSectionTerminate);
+       s.set_section(igsSectionStart);
+     },
+     {record('P', 1, ";", 1)}},
+    {"fixed fields stand right-justified and a full line finishes itself",
+     [](igsOutStream& s) {
+       s.set_section(igsSectionDirectory);
+       s.write_integer(8, 5);
+       s.write_integer(8, -12);
+       s.write_string(8, "AB");
+       s.write_string(48, "");
+       s.write_integer(8, 1234567);  // a new line
+       s.write_string(3, "TOOLONG"); // the caller's limit: the text starts with the field
+     },
+     {record('D', 1, "       5     -12      AB"), record('D', 2, " 1234567TOOLONG")}},
+    {"a started line goes out when the stream is destroyed",
+     [](igsOutStream& s) {
+       s.set_section(igsSectionStart);
+       s.write_string(4, "ab");
+     },
+     {record('S', 1, "  ab")}},
+    {"lines before any section are all data",
+     [](igsOutStream& s) {
+       s.write_string(80, "X");
+       s.set_section(igsSectionGlobal);
+     },
+     {repeat(' ', 79) + "X"}},
+};
+
+TEST(igsOutStream, LaysFieldsIntoLines) {
+  for (auto const& c : layout_cases) {
+    SCOPED_TRACE(c.what);
+    EXPECT_EQ(written(c.fill), c.expected);
+  }
+}
+
+TEST(igsOutStream, WritesTheSampleFileOfTheReader) {
+  // The small file of the reader's tests, written field by field the way the section writers
+  // do, comes out byte for byte.
+  std::ostringstream out;
+  {
+    igsOutStream s(&out);
+    s.set_section(igsSectionStart);
+    for (std::string text : {"A small file made for the tests.", "Second start line."}) {
+      text.resize(72, ' ');
+      s.write_string(72, text.c_str());
+    }
+    s.set_section(igsSectionGlobal);
+    for (char const* text : {",", ";", "test", "test.igs", "me", "1.0"}) s.write_holerith(text);
+    s.set_section(igsSectionDirectory);
+    for (int v : {110, 1, 0, 0, 0, 0, 0, 0}) s.write_integer(8, v);
+    s.write_string(8, "00000000");
+    for (int v : {110, 0, 0, 1, 0}) s.write_integer(8, v);
+    for (int i = 0; i < 3; ++i) s.write_string(8, "");
+    s.write_integer(8, 0);
+    s.set_section(igsSectionParameter);
+    s.write_integer(110);
+    for (double v : {0.0, 0.0, 0.0, 1.0, 2.0, 3.0}) s.write_double(v);
+    s.set_backpointer(3);
+    EXPECT_EQ(s.num_lines(igsSectionParameter), 1);
+    s.set_section(igsSectionTerminate);
+    int index = 0;
+    for (igsFileSection section :
+         {igsSectionStart, igsSectionGlobal, igsSectionDirectory, igsSectionParameter}) {
+      s.write_string(1, utString(std::string(1, "SGDP"[index++])));
+      s.write_integer(7, s.num_lines(section));
+    }
+    EXPECT_FALSE(s.error());
+  }
+  EXPECT_EQ(out.str(), igs_input_test::join(igs_input_test::sound_file()));
+}
+
+TEST(igsOutStream, RealsFollowThePrecisionKeys) {
+  // Geometric values take the precision the stream was made with; parametric ones the
+  // format pushed around them, as the entity writers do.
+  KeyOverride geometric(kvnOptDoubleGeometricPrecision, 6);
+  KeyOverride parametric(kvnOptDoubleParametricPrecision, 9);
+  double const pi = 3.14159265358979;
+  Lines lines = written([&](igsOutStream& s) {
+    s.set_section(igsSectionParameter);
+    s.write_double(pi);
+    s.push_double_format(kvnOptDoubleFieldWidth.value(), kvnOptDoubleParametricPrecision.value());
+    s.write_double(pi);
+    s.write_double(-1e-10 * pi);
+    s.pop_double_format();
+    s.write_double(pi);
+    s.pop_double_format(); // one pop too many changes nothing
+    s.write_double(pi);
+    s.set_backpointer(3);
+  });
+  EXPECT_EQ(lines, Lines{record('P', 1, "3.14159,3.14159265,-3.14159265D-10,3.14159,3.14159;", 1)});
+}
+
+TEST(igsOutStream, FailingStreamFreezesUntilCollectedAndReset) {
+  FailingBuf failing(2 * 81 + 10);
+  std::ostream out(&failing);
+  std::ostringstream good; // the destination taken later, which must outlive the stream
+  igsOutStream s(&out);
+  s.set_section(igsSectionParameter);
+  for (int i = 0; i < 40; ++i) s.write_integer(1000 + i); // 40 fields of 5: four lines
+  EXPECT_TRUE(s.frozen());
+  EXPECT_TRUE(out.bad());
+  EXPECT_EQ(failing.text().size(), 2u * 81 + 10);
+  // The codes stand, and reset refuses until they are collected.
+  EXPECT_EQ(s.reset(), 0);
+  igsFileSection section;
+  int line = 0;
+  int column = -1;
+  s.position(section, line, column);
+  EXPECT_EQ(line, 3); // the line that failed
+  EXPECT_EQ(column, 0);
+  EXPECT_EQ(describe_codes(s), (Lines{"igsIOStreamBad@P3:0", "igsIOStreamFailed@P3:0"}));
+  EXPECT_TRUE(s.error_type(igsIOStreamBad));
+  EXPECT_FALSE(s.error_type(igsIOLineNumberTooLarge));
+  // Frozen, a write goes nowhere and the cursor stays.
+  s.write_integer(5);
+  s.position(section, line, column);
+  EXPECT_EQ(column, 0);
+  EXPECT_FALSE(s.error()); // the write cleared what was collected; nothing new
+  EXPECT_EQ(s.reset(), 1);
+  EXPECT_FALSE(s.frozen());
+  // The stream is still bad: the next line fails again.
+  for (int i = 0; i < 13; ++i) s.write_integer(2000 + i);
+  EXPECT_TRUE(s.frozen());
+  EXPECT_TRUE(s.error_type(igsIOStreamFailed));
+  // A new destination takes the lines from there on; the numbers and the record run on.
+  s.set_destination(&good);
+  EXPECT_EQ(s.reset(), 1);
+  s.write_integer(7);
+  s.set_backpointer(3);
+  EXPECT_FALSE(s.error());
+  EXPECT_EQ(lines_of(good.str()), Lines{record('P', 5, ",7;", 1)});
+}
+
+TEST(igsOutStream, StreamsThatFailOtherwise) {
+  {
+    // A stream told to throw for its bad bit does not throw: only the codes tell.
+    FailingBuf failing(0);
+    std::ostream out(&failing);
+    out.exceptions(std::ios::badbit | std::ios::failbit);
+    igsOutStream s(&out);
+    s.set_section(igsSectionStart);
+    EXPECT_NO_THROW(s.write_string(72, "x"));
+    EXPECT_EQ(out.rdstate(), std::ios::goodbit);
+    EXPECT_TRUE(s.error_type(igsIOStreamBad) && s.error_type(igsIOStreamFailed));
+  }
+  {
+    // A stream that failed before takes nothing.
+    std::ostringstream out;
+    out.setstate(std::ios::failbit);
+    igsOutStream s(&out);
+    s.set_section(igsSectionStart);
+    s.write_string(72, "x");
+    EXPECT_EQ(codes_of_stream(s), (Codes{igsIOStreamFailed}));
+    EXPECT_TRUE(out.str().empty());
+  }
+  {
+    // No destination at all counts as a bad stream.
+    igsOutStream s(nullptr);
+    s.set_section(igsSectionStart);
+    s.write_string(72, "x");
+    EXPECT_EQ(codes_of_stream(s), (Codes{igsIOStreamBad, igsIOStreamFailed}));
+    EXPECT_TRUE(s.frozen());
+  }
+  {
+    // A flush that fails when the destination changes is reported too.
+    FailingBuf failing(1000, true);
+    std::ostream out(&failing);
+    std::ostringstream other;
+    igsOutStream s(&out);
+    s.set_section(igsSectionStart);
+    s.write_string(72, "x");
+    s.set_destination(&other);
+    EXPECT_EQ(failing.text().size(), 81u);
+    EXPECT_EQ(codes_of_stream(s), (Codes{igsIOStreamBad, igsIOStreamFailed}));
+    EXPECT_TRUE(out.bad());
+  }
+}
+
+TEST(igsOutStream, BackPointerLimit) {
+  std::ostringstream out;
+  igsOutStream s(&out);
+  s.set_section(igsSectionParameter);
+  s.write_integer(1);
+  s.set_backpointer(9999999);
+  s.write_integer(2);
+  s.set_backpointer(10000000);
+  EXPECT_FALSE(s.error());
+  s.write_integer(3);
+  s.set_backpointer(10000002); // the line of back pointer 10000000 goes out without its tail
+  EXPECT_TRUE(s.frozen());
+  s.write_integer(4);
+  s.set_backpointer(10000004);
+  EXPECT_EQ(codes_of_stream(s), (Codes{igsIOBackpointerTooLarge}));
+  EXPECT_EQ(lines_of(out.str()), (Lines{record('P', 1, "1;", 1), record('P', 2, "2;", 9999999),
+                                        "3;" + repeat(' ', 78)}));
+  // Fatal for good: reset refuses and the code stays.
+  EXPECT_EQ(s.reset(), 0);
+  s.write_integer(5);
+  EXPECT_TRUE(s.error_type(igsIOBackpointerTooLarge));
+  EXPECT_EQ(s.num_lines(igsSectionParameter), 3);
+  // A back pointer too small for its columns cannot be written either.
+  std::ostringstream low;
+  igsOutStream t(&low);
+  t.set_section(igsSectionParameter);
+  t.write_integer(1);
+  t.set_backpointer(-1000000);
+  t.write_integer(2);
+  t.set_backpointer(3);
+  EXPECT_TRUE(t.error_type(igsIOBackpointerTooLarge));
+}
+
+TEST(igsOutBuffer, LineNumberLimit) {
+  TailBuf tail;
+  std::ostream out(&tail);
+  igsOutBuffer buffer(&out);
+  buffer.set_section(igsSectionDirectory);
+  for (int i = 0; i < 9999999; ++i) buffer += 72;
+  EXPECT_EQ(tail.last(), record('D', 9999999, "") + "\n");
+  EXPECT_FALSE(buffer.frozen());
+  buffer.append("X", 1);
+  buffer += 71;
+  // Line 10000000 goes out with its tail blank, and the buffer stops for good.
+  EXPECT_EQ(tail.last(), "X" + repeat(' ', 79) + "\n");
+  EXPECT_TRUE(buffer.frozen());
+  long long bytes = tail.bytes();
+  buffer.append("Y", 1);
+  buffer += 200;
+  buffer.set_section(igsSectionParameter);
+  EXPECT_EQ(tail.bytes(), bytes);
+  igsIOErrorcoDynArr errors;
+  buffer.collect_errors(errors);
+  EXPECT_EQ(igs_input_test::codes_of(errors), (Codes{igsIOLineNumberTooLarge}));
+  EXPECT_EQ(buffer.reset(), 0);
+  errors.shrink(0);
+  buffer.collect_errors(errors);
+  EXPECT_EQ(igs_input_test::codes_of(errors), (Codes{igsIOLineNumberTooLarge}));
+  EXPECT_EQ(buffer.num_lines(igsSectionDirectory), 10000000);
+}
+
+} // namespace
