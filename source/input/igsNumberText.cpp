@@ -1,8 +1,12 @@
 #include "input/igsNumberText.h"
 
+#include <cerrno>
+#include <cfloat>
 #include <charconv>
+#include <cmath>
 #include <cstdint>
 #include <cstdlib>
+#include <cstring>
 
 // Reads the common real in one pass: at most 19 significant digits whose value is below 2^53,
 // and a power of ten within 22 of zero. Mantissa and power are then exact doubles, and one
@@ -30,7 +34,7 @@ static bool parse_plain_real(char const* p, bool negative, double& value, char c
       mantissa = mantissa * 10 + static_cast<unsigned>(*q - '0');
     }
   }
-  if (*q == 'e' || *q == 'E') {
+  if (*q == 'e' || *q == 'E' || *q == 'd' || *q == 'D') {
     char const* e = q + 1;
     bool negative_power = false;
     if (*e == '+' || *e == '-') negative_power = *e++ == '-';
@@ -58,6 +62,25 @@ static bool is_real_char(char c) {
   return igs_is_digit(c) || c == '.' || c == 'e' || c == 'E' || c == '+' || c == '-';
 }
 
+// Where a D exponent (Fortran style) stands at p: "D", an optional sign, a digit.
+static bool d_exponent_at(char const* p) {
+  if (*p != 'D' && *p != 'd') return false;
+  ++p;
+  if (*p == '+' || *p == '-') ++p;
+  return igs_is_digit(*p);
+}
+
+// strtod, with a value too large for a double held at the largest finite one: a file that
+// spells the largest double at fewer digits rounds past it, and must not read as infinity.
+static double c_library_real(char const* text, char const*& end) {
+  char* stop = nullptr;
+  errno = 0;
+  double value = std::strtod(text, &stop);
+  if (errno == ERANGE && std::isinf(value)) value = std::copysign(DBL_MAX, value);
+  end = stop;
+  return value;
+}
+
 double igs_parse_real(char const* text, char const*& end) {
   char const* s = text;
   while (igs_is_space(*s)) ++s;
@@ -76,19 +99,31 @@ double igs_parse_real(char const* text, char const*& end) {
   if (plain) {
     char const* last = mantissa;
     while (is_real_char(*last)) ++last;
-    double value = 0.0;
-    auto [stop, ec] = std::from_chars(first, last, value);
-    if (ec == std::errc()) {
-      end = stop;
-      return value;
+    // A D exponent is read exactly as the E exponent it stands for, from a copy.
+    char copy[80];
+    char const* from = first;
+    if (d_exponent_at(last) && last - first < 40) {
+      char const* stop = last + 1;
+      while (is_real_char(*stop)) ++stop;
+      if (stop - first < static_cast<long>(sizeof copy)) {
+        std::memcpy(copy, first, static_cast<size_t>(stop - first));
+        copy[last - first] = 'E';
+        copy[stop - first] = '\0';
+        last = copy + (stop - first);
+        from = copy;
+      }
     }
+    double value = 0.0;
+    auto [stop, ec] = std::from_chars(from, last, value);
     if (ec == std::errc::invalid_argument) {
       end = text;
       return 0.0;
     }
+    if (ec == std::errc() || ec == std::errc::result_out_of_range) {
+      if (ec == std::errc::result_out_of_range) value = c_library_real(from, stop);
+      end = first + (stop - from);
+      return value;
+    }
   }
-  char* stop = nullptr;
-  double value = std::strtod(text, &stop);
-  end = stop;
-  return value;
+  return c_library_real(text, end);
 }

@@ -39,6 +39,8 @@ inline int igs_parse_int(char const* text, char const*& end) {
 }
 
 // Reads a real number the way strtod(text, &end) does in the "C" locale, with the same value
-// and the same stop position (hexadecimal, infinity and NaN forms included). Without a number
-// the result is 0.0 and end is text.
+// and the same stop position (hexadecimal, infinity and NaN forms included), with two
+// differences that keep written values intact: a D exponent reads exactly as an E exponent,
+// and a value beyond the largest double is held at it instead of becoming infinite. Without a
+// number the result is 0.0 and end is text.
 double igs_parse_real(char const* text, char const*& end);
