@@ -23,7 +23,9 @@ igsFile::~igsFile() {
 void igsFile::object_created(igsObject* object) {
   int location = m_free_slots.empty() ? m_table.size() : m_free_slots.pop();
   igsObjectManager* manager = nullptr;
-  if (igsObjectManager** waiting = m_forward_references.read(location)) {
+  igsObjectManager** waiting =
+      m_forward_references.empty() ? nullptr : m_forward_references.read(location);
+  if (waiting) {
     // References bound to this DE number before now reach the new entity.
     manager = *waiting;
     m_forward_references.remove(location);

@@ -5,11 +5,13 @@
 
 #include "support/coNames.h"
 
+#include <cstdint>
+
 class igsDirectoryEntry;
 
 class igsObjectManager {
  public:
-  igsObjectManager();
+  igsObjectManager() = default;
   // Nulls every reference that still reaches this manager.
   ~igsObjectManager();
   igsObjectManager(igsObjectManager const&) = delete;
@@ -37,14 +39,24 @@ class igsObjectManager {
   // The reference list grows by a step that is multiplied by 8 whenever the number of
   // references passes 8 steps (2, 16, 128, ...), so heavily shared entities do not pay for
   // many small reallocations.
-  int pointer_list_increment() const { return m_pointers.increment(); }
-  int pointer_list_capacity() const { return m_pointers.capacity(); }
+  int pointer_list_increment() const { return m_increment; }
+  int pointer_list_capacity() const { return m_capacity; }
 
  private:
   friend class igsObjectManagerIT;
   friend class igsObjectPtr;
+  // The reference list holds the addresses of the references. A hole (a slot whose reference
+  // left) reads as null to everyone else but holds the next hole of the free list, so holes
+  // are reused last freed first without a separate stack: (next + 1) * 2 + 1, odd, where an
+  // address is even. The first two slots live in the manager itself.
+  using Slot = std::uintptr_t;
+  static Slot hole(int next) { return (static_cast<Slot>(next + 1) << 1) | 1u; }
+  static int next_hole(Slot slot) { return static_cast<int>(slot >> 1) - 1; }
+  // The reference in the slot at location, or null for a hole or a location out of range.
+  igsObjectPtr* pointer(int location) const;
   // A reference moved to a new address keeps its slot.
-  void move_pointer(int location, igsObjectPtr* ptr) { m_pointers[location] = ptr; }
+  void move_pointer(int location, igsObjectPtr* ptr);
+  int grow();
 
   int m_visited = 0;
   int m_validated = 0;
@@ -52,8 +64,12 @@ class igsObjectManager {
   igsDirectoryEntry* m_directory_entry = nullptr;
   igsFile* m_file = nullptr;
   int m_system_location = -1;
-  igsObjectPtrPtrcoDynArr m_pointers;
-  intcoStack m_free_positions;
+  Slot m_inline[2] = {};
+  Slot* m_slots = m_inline;
+  int m_size = 0;
+  int m_capacity = 2;
+  int m_increment = 2;
+  int m_first_hole = -1;
   int m_num_references = 0;
 };
 
