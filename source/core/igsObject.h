@@ -18,14 +18,8 @@ class igsObjectError;
 class igsStructureError;
 
 class igsObject {
- public:
-  static kvuTypeInfo const id;
-  static kvuTypeInfo const& type() { return id; }
-  virtual kvuTypeInfo const& objtype() const { return id; }
-  // Kind-of test: this class is `t` or derives from it.
-  int typeof(kvuTypeInfo const& t) const { return objtype().childof(t); }
-  // Exact test: this class is `t`.
-  int isa(kvuTypeInfo const& t) const { return objtype() == t; }
+  // typeof: kind-of test; isa: exact test.
+  KVU_DECLARE_ROOT_TYPE()
 
   virtual ~igsObject();
   igsObject(igsObject const&) = delete;

@@ -24,14 +24,8 @@ class igsErrorArgumentVisitor {
 };
 
 class igsError {
- public:
-  static kvuTypeInfo const id;
-  static kvuTypeInfo const& type() { return id; }
-  virtual kvuTypeInfo const& objtype() const { return id; }
-  // Kind-of test: this class is `t` or derives from it.
-  int typeof(kvuTypeInfo const& t) const { return objtype().childof(t); }
-  // Exact test: this class is `t`.
-  int isa(kvuTypeInfo const& t) const { return objtype() == t; }
+  // typeof: kind-of test; isa: exact test.
+  KVU_DECLARE_ROOT_TYPE()
 
   // 1 when the problem is dealt with and the error may leave the active list, 0 when it stays.
   virtual int fix() = 0;
@@ -114,19 +108,25 @@ class igsStructureError : public igsIndexedError {
   igsStructureError();
 };
 
-// A fault of the Global section; filed in the global log.
-class igsGlobalError : public igsError {
-  KVU_DECLARE_TYPE()
+// The errors of the two sections a file has one of: the key is the section itself.
+template <class Section> class igsSectionError : public igsError {
  public:
   int fix() override { return 0; }
-  igsGlobalSection* key() const { return m_key; }
-  void set_key(igsGlobalSection* section) { m_key = section; }
+  Section* key() const { return m_key; }
+  void set_key(Section* section) { m_key = section; }
 
  protected:
-  igsGlobalError();
+  igsSectionError() = default;
 
  private:
-  igsGlobalSection* m_key = nullptr;
+  Section* m_key = nullptr;
+};
+
+// A fault of the Global section; filed in the global log.
+class igsGlobalError : public igsSectionError<igsGlobalSection> {
+  KVU_DECLARE_TYPE()
+ protected:
+  igsGlobalError();
 };
 
 // A fault of the Start section; filed in the start log.
@@ -141,18 +141,10 @@ class igsStartError : public igsError {
 
 // A fault of the Terminate section, or of the file as a whole found at its end; filed in the
 // terminate log.
-class igsTerminateError : public igsError {
+class igsTerminateError : public igsSectionError<igsTerminateSection> {
   KVU_DECLARE_TYPE()
- public:
-  int fix() override { return 0; }
-  igsTerminateSection* key() const { return m_key; }
-  void set_key(igsTerminateSection* section) { m_key = section; }
-
  protected:
   igsTerminateError();
-
- private:
-  igsTerminateSection* m_key = nullptr;
 };
 
 // A bad member of a compound entity (group, subfigure, view list). The index is the member's

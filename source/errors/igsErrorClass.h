@@ -6,7 +6,8 @@
 // Behaviour says which operations the class writes by hand:
 //   REPORT   inherits the base's fix (reported, never repaired);
 //   SETTLED  fix returns 1 and does nothing else: the log may forget the error;
-//   FIX      declares `int fix() override;`, written beside what it repairs;
+//   FIX      declares `int fix() override;`, written beside what it repairs (with
+//            IGS_ERROR_MESSAGE_FIX when the repair is only a message);
 //   OBJ      declares `int obj() override;` (object errors that name a child);
 //   FIX_OBJ  both.
 //
@@ -124,3 +125,11 @@ struct igsErrorBinder {
   };
 
 #define IGS_ERROR_DEFINE(Name, Base, Behaviour, ...) KVU_DEFINE_TYPE(Name, Base)
+
+// The fix of a FIX row whose repair is only a message: sends the printf-style message (format
+// and arguments, which may use the accessors) and returns the result.
+#define IGS_ERROR_MESSAGE_FIX(Name, result, ...)                                                   \
+  int Name::fix() {                                                                                \
+    message(__VA_ARGS__);                                                                          \
+    return result;                                                                                 \
+  }
