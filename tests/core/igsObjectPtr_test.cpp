@@ -66,7 +66,8 @@ TEST_F(ReferenceTest, AssignmentCopyAndMoveKeepTheCountExact) {
   auto* b = new testNode;
   igsObjectPtr p(a);
   igsObjectPtr q(a);
-  p = p; // leaves and rejoins the same manager
+  igsObjectPtr& same = p;
+  p = same; // leaves and rejoins the same manager
   EXPECT_EQ(p(), a);
   EXPECT_EQ(a->num_references(), 2);
   q = b;
