@@ -21,6 +21,7 @@ class igsObject {
   // typeof: kind-of test; isa: exact test.
   KVU_DECLARE_ROOT_TYPE()
 
+ public:
   virtual ~igsObject();
   igsObject(igsObject const&) = delete;
   igsObject& operator=(igsObject const&) = delete;

@@ -27,6 +27,7 @@ class igsError {
   // typeof: kind-of test; isa: exact test.
   KVU_DECLARE_ROOT_TYPE()
 
+ public:
   // 1 when the problem is dealt with and the error may leave the active list, 0 when it stays.
   virtual int fix() = 0;
   virtual ~igsError();
