@@ -9,8 +9,10 @@
 
 class igsIOError;
 class igsError;
+class igsErrorLog;
 class igsFile;
 class igsObject;
+class igsObjectManager;
 class igsObjectPtr;
 class igsSimpleSectionLog;
 
@@ -39,5 +41,9 @@ using igsErrorPtrcoDynArr = coDynArr<igsError*>;
 using igsErrorcoDynArr = coDynArr<igsError*>;
 using igsErrorPtrcoSet = coSet<igsError*>;
 using igsObjectPtrcoDynArr = coDynArr<igsObjectPtr>;
+using igsObjectPtrPtrcoDynArr = coDynArr<igsObjectPtr*>;
+using igsObjectManagerPtrcoPageArr = coPageArr<igsObjectManager*>;
+using intigsObjectManagerPtrcoTable = coTable<int, igsObjectManager*>;
+using igsErrorLogPtrcoDynArr = coDynArr<igsErrorLog*>;
 using igsFilecoDynArrPtrcoPtrcoDynArr = coDynArr<igsFile*>;
 using igsSimpleSectionLogcoDynArrPrgcoPrgcoDynArr = coDynArr<coPrg<igsSimpleSectionLog>>;

@@ -34,12 +34,28 @@ class kvuTypeInfo {
 // `virtual kvuTypeInfo const& objtype() const`: a static record `id`, `type()`, and the
 // override of `objtype`. The root derives `typeof` and `isa` from `objtype`.
 #define KVU_DECLARE_TYPE()                                                                         \
+  KVU_TYPE_RECORD_()                                                                               \
+  kvuTypeInfo const& objtype() const override {                                                    \
+    return id;                                                                                     \
+  }
+
+// The type boilerplate of the root of a tree: the record, `type()`, the virtual `objtype`, and
+// the kind-of (`typeof`) and exact (`isa`) tests derived from it.
+#define KVU_DECLARE_ROOT_TYPE()                                                                    \
+  KVU_TYPE_RECORD_()                                                                               \
+  virtual kvuTypeInfo const& objtype() const {                                                     \
+    return id;                                                                                     \
+  }                                                                                                \
+  int typeof(kvuTypeInfo const& t) const {                                                         \
+    return objtype().childof(t);                                                                   \
+  }                                                                                                \
+  int isa(kvuTypeInfo const& t) const {                                                            \
+    return objtype() == t;                                                                         \
+  }
+#define KVU_TYPE_RECORD_()                                                                         \
  public:                                                                                           \
   static kvuTypeInfo const id;                                                                     \
   static kvuTypeInfo const& type() {                                                               \
-    return id;                                                                                     \
-  }                                                                                                \
-  kvuTypeInfo const& objtype() const override {                                                    \
     return id;                                                                                     \
   }
 

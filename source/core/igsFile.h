@@ -1,0 +1,118 @@
+// One IGES file in memory: its table of entities, each reached through its manager. A file
+// becomes current when it is made; entities made while it is current join it.
+#pragma once
+
+#include "core/igsObjectManager.h"
+#include "support/kvnabs.h"
+#include "support/kvuTypeInfo.h"
+#include "support/utOstream.h"
+
+class igsError;
+
+class igsFile {
+ public:
+  igsFile();
+  // Closes the file in the object system (its log goes first), then deletes its entities.
+  virtual ~igsFile();
+  igsFile(igsFile const&) = delete;
+  igsFile& operator=(igsFile const&) = delete;
+
+  void print(utOstream& out) const;
+  // Moves every reference of the old entity to the new one, deletes the old one and gives
+  // the new one its slot, so the new entity takes over the DE number and the write order.
+  // Both must be distinct entities of this file; otherwise nothing happens.
+  void replace_entity(igsObject* old_entity, igsObject* new_entity);
+
+  // Entities in the table; the number of slots that print shows may be larger.
+  int num_entities() const { return m_num_entities; }
+  int num_slots() const { return m_table.size(); }
+  // Managers alive: one per entity and one per DE number referenced while it had no entity.
+  int num_managers() const { return m_manager_count; }
+  // Null and Unknown entities dropped after reading.
+  int num_nulls() const { return m_num_nulls; }
+  int num_unknowns() const { return m_num_unknowns; }
+  // 1 unless reading failed before or in the Directory section.
+  int parameter_data_read() const { return m_parameter_data_read; }
+
+  kvnabsOutput* message_stream() const { return m_message_stream; }
+  void set_message_stream(kvnabsOutput* stream) { m_message_stream = stream; }
+  utString const& write_dir() const { return m_write_dir; }
+  void set_write_dir(utString const& dir) { m_write_dir = dir; }
+
+ protected:
+  utString const& pathname() const { return m_pathname; }
+  void set_pathname(utString const& pathname) { m_pathname = pathname; }
+  // Gives the error the file's message stream, if one is set.
+  void tag_error(igsError* error) const;
+  // Packs the table: entities move down over the empty slots in order, so DE numbers run
+  // 1, 3, 5, ... with no gap, and the free slots are forgotten. References are unaffected.
+  void compress();
+  // Destroys the managers of DE numbers that were referenced but never got an entity, so
+  // that every reference to them reads null for good.
+  void remove_forward_references();
+
+ private:
+  friend class igsObjectSystem;
+  friend class igsObject;
+  friend class igsObjectPtr;
+  friend class igsFileIT;
+  friend class igsFileTypeIT;
+
+  void object_created(igsObject* object);
+  void object_deleted(igsObject* object);
+  void ptr_created(igsObjectPtr* ptr, int location);
+  void reset_visit_flags();
+  int system_location() const { return m_system_location; }
+  void set_system_location(int location) { m_system_location = location; }
+  // The manager in the slot, or null.
+  igsObjectManager* slot(int location) const {
+    igsObjectManager* const* m = m_table.find(location);
+    return m ? *m : nullptr;
+  }
+  igsObject* object_at(int location) const;
+  // Moves the index to the next slot whose entity is accepted; 0 and index -1 at the end.
+  template <class Accept> int next_entity(int& index, Accept accept) const;
+
+  utString m_pathname;
+  igsObjectManagerPtrcoPageArr m_table;
+  intcoStack m_free_slots;
+  intigsObjectManagerPtrcoTable m_forward_references;
+  int m_manager_count = 0;
+  int m_num_entities = 0;
+  int m_system_location = -1;
+  utString m_write_dir;
+  kvnabsOutput* m_message_stream = nullptr;
+  int m_parameter_data_read = 1;
+  int m_num_nulls = 0;
+  int m_num_unknowns = 0;
+};
+
+utOstream& operator<<(utOstream& out, igsFile const& file);
+
+// Walks the entities of a file in slot order; with the flag set, only those that nothing
+// references (the top-level entities).
+class igsFileIT {
+ public:
+  explicit igsFileIT(igsFile const* file, int top_level_only = 0)
+      : m_file(file), m_top_level_only(top_level_only) {}
+  int operator++();
+  igsObject* operator()() const;
+
+ private:
+  igsFile const* m_file;
+  int m_top_level_only;
+  int m_index = -1;
+};
+
+// Walks the entities of a file that are exactly of the given class (not of derived classes).
+class igsFileTypeIT {
+ public:
+  igsFileTypeIT(igsFile const* file, kvuTypeInfo const& type) : m_file(file), m_type(&type) {}
+  int operator++();
+  igsObject* operator()() const;
+
+ private:
+  igsFile const* m_file;
+  kvuTypeInfo const* m_type;
+  int m_index = -1;
+};

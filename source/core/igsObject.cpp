@@ -1,0 +1,75 @@
+#include "core/igsObject.h"
+
+#include "core/igsEntityName.h"
+#include "core/igsFile.h"
+#include "core/igsObjectSystem.h"
+#include "errors/igsErrorLog.h"
+#include "sections/igsDirectoryEntry.h"
+
+KVU_DEFINE_TYPE(igsObject)
+
+igsObject::igsObject() {
+  igsObjectSystem::initialize_system();
+  igsObjectSystem::object_created(this);
+}
+
+igsObject::~igsObject() {
+  if (m_manager) m_manager->file()->object_deleted(this);
+}
+
+utString const& igsObject::name() const {
+  return igs_entity_type_name(directory_entry().entity_type());
+}
+
+int igsObject::num_logged_errors() const {
+  igsErrorLog& log = igsObjectSystem::log();
+  int de = de_number();
+  return log.get_indexed_log(igsObjectLog)->num_errors(de) +
+         log.get_indexed_log(igsStructureLog)->num_errors(de);
+}
+
+int igsObject::check() const {
+  igsObjectSystem::reentrant_start();
+  if (!m_manager->visited()) {
+    m_manager->set_visited(1);
+    // A re-check starts clean; structure errors stay.
+    igsObjectSystem::log().get_indexed_log(igsObjectLog)->clear(de_number());
+    check_pd();
+    check_de();
+    m_manager->set_validated(num_logged_errors() == 0);
+  }
+  igsObjectSystem::reentrant_end();
+  return m_manager->validated();
+}
+
+void igsObject::print(utOstream& out) const {
+  igsObjectSystem::reentrant_start();
+  utOstream nested(utOstreamTabTag, out, 1, 0);
+  out << "@" << de_number() << "(" << static_cast<int>(directory_entry().entity_type())
+      << ") = {\n";
+  if (!m_manager->visited()) {
+    m_manager->set_visited(1);
+    print_pd_data(nested);
+  }
+  out << "}\n";
+  igsObjectSystem::reentrant_end();
+}
+
+void igsObject::unreference_children() {
+  directory_entry().unreference_children();
+}
+
+void igsObject::tag_error(igsObjectError* error) const {
+  if (!error) return;
+  error->set_key(de_number());
+  if (kvnabsOutput* stream = file().message_stream()) error->set_message_stream(stream);
+}
+
+void igsObject::tag_error(igsStructureError* error) const {
+  if (!error) return;
+  if (kvnabsOutput* stream = file().message_stream()) error->set_message_stream(stream);
+}
+
+void igsObject::set_directory_entry_type(igsEntityType type, int form) {
+  directory_entry().set_entity_type_and_form(type, form);
+}

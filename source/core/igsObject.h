@@ -1,0 +1,76 @@
+// The abstract base of every entity. An entity joins the current file when it is constructed
+// and reaches its Directory Entry, DE number and file through the manager that the file gives
+// it; it leaves the file when it is destroyed. Entities are always made with new: the file
+// deletes what it holds.
+#pragma once
+
+#include "core/igsEntityType.h"
+#include "core/igsObjectManager.h"
+#include "support/kvuTypeInfo.h"
+#include "support/utOstream.h"
+
+#include <new>
+#include <utility>
+
+class igsInStream;
+class igsOutStream;
+class igsObjectError;
+class igsStructureError;
+
+class igsObject {
+  // typeof: kind-of test; isa: exact test.
+  KVU_DECLARE_ROOT_TYPE()
+
+ public:
+  virtual ~igsObject();
+  igsObject(igsObject const&) = delete;
+  igsObject& operator=(igsObject const&) = delete;
+
+  // Checks the entity once per walk; 1 when it has no logged errors afterwards.
+  int check() const;
+  // 2 x slot + 1: the number under which files, errors and messages name the entity.
+  int de_number() const { return 2 * m_manager->system_location() + 1; }
+  igsDirectoryEntry& directory_entry() const { return *m_manager->directory_entry(); }
+  igsFile& file() const { return *m_manager->file(); }
+  // The name of the entity type.
+  utString const& name() const;
+  // Active errors filed under this DE number in the object and structure logs.
+  int num_logged_errors() const;
+  int num_references() const { return m_manager->num_references(); }
+  // Prints the entity as "@<DE>(<type>) = {" ... "}"; an entity met again in the same walk
+  // prints only that frame.
+  void print(utOstream& out) const;
+
+ protected:
+  igsObject();
+
+  virtual igsObject* make_one() = 0;
+  virtual int read_pd_data(igsInStream& in) = 0;
+  virtual void write_pd_data(igsOutStream& out) = 0;
+  virtual void print_pd_data(utOstream& out) const = 0;
+  virtual void check_pd() const = 0;
+  virtual void check_de() const = 0;
+  // Drops the references that the DE holds; classes holding references of their own drop
+  // those and call up.
+  virtual void unreference_children();
+
+  // Binds an object error to this entity: key = DE number, and the file's message stream.
+  void tag_error(igsObjectError* error) const;
+  // Binds a structure error (keyed by its constructor) to the file's message stream.
+  void tag_error(igsStructureError* error) const;
+  // Creates an error of class E with the arguments and tags it to this entity.
+  template <class E, class... A> void raise_error(A&&... arguments) const {
+    tag_error(new (std::nothrow) E(std::forward<A>(arguments)...));
+  }
+
+  // Stores type and form in the DE; every concrete constructor calls it last.
+  void set_directory_entry_type(igsEntityType type, int form);
+
+ private:
+  friend class igsFile;
+  friend class igsObjectPtr;
+  igsObjectManager* manager() const { return m_manager; }
+  void set_manager(igsObjectManager* manager) { m_manager = manager; }
+
+  igsObjectManager* m_manager = nullptr;
+};

@@ -1,0 +1,73 @@
+#include "core/igsObjectManager.h"
+
+#include "core/igsObjectPtr.h"
+
+#include <new>
+
+igsObjectManager::~igsObjectManager() {
+  for (int location = 0; location < m_size; ++location)
+    if (igsObjectPtr* ptr = pointer(location)) {
+      ptr->set_manager(nullptr);
+      ptr->set_manager_location(-1);
+    }
+  if (m_slots != m_inline) delete[] m_slots;
+}
+
+igsObjectPtr* igsObjectManager::pointer(int location) const {
+  if (location < 0 || location >= m_size || (m_slots[location] & 1u)) return nullptr;
+  return reinterpret_cast<igsObjectPtr*>(m_slots[location]);
+}
+
+void igsObjectManager::move_pointer(int location, igsObjectPtr* ptr) {
+  m_slots[location] = reinterpret_cast<Slot>(ptr);
+}
+
+// Grows the list by the increment; 0 if there was no memory.
+int igsObjectManager::grow() {
+  int capacity = m_capacity + m_increment;
+  Slot* slots = new (std::nothrow) Slot[static_cast<size_t>(capacity)];
+  if (!slots) return 0;
+  for (int i = 0; i < m_size; ++i) slots[i] = m_slots[i];
+  if (m_slots != m_inline) delete[] m_slots;
+  m_slots = slots;
+  m_capacity = capacity;
+  return 1;
+}
+
+void igsObjectManager::add_pointer(igsObjectPtr* ptr) {
+  int location = m_first_hole;
+  if (location >= 0) {
+    m_first_hole = next_hole(m_slots[location]);
+  } else {
+    if (m_size == m_capacity && !grow()) return; // no room: the reference stays null
+    location = m_size++;
+  }
+  m_slots[location] = reinterpret_cast<Slot>(ptr);
+  ptr->set_manager(this);
+  ptr->set_manager_location(location);
+  ++m_num_references;
+  if (m_num_references > 8 * m_increment) m_increment *= 8;
+}
+
+void igsObjectManager::delete_pointer(igsObjectPtr* ptr) {
+  int location = ptr->location();
+  if (pointer(location) != ptr) return;
+  m_slots[location] = hole(m_first_hole);
+  m_first_hole = location;
+  --m_num_references;
+  ptr->set_manager(nullptr);
+  ptr->set_manager_location(-1);
+}
+
+int igsObjectManagerIT::operator++() {
+  if (m_manager) {
+    while (++m_index < m_manager->m_size)
+      if (m_manager->pointer(m_index)) return 1;
+  }
+  m_index = -1;
+  return 0;
+}
+
+igsObjectPtr* igsObjectManagerIT::operator()() const {
+  return m_manager ? m_manager->pointer(m_index) : nullptr;
+}

@@ -1,0 +1,320 @@
+#include "core/objectTestSupport.h"
+
+#include "core/igsFileErrors.h"
+
+#include <vector>
+
+namespace {
+
+std::vector<int> de_numbers(igsFile const& f) {
+  std::vector<int> numbers;
+  for (igsFileIT it(&f); ++it;) numbers.push_back(it()->de_number());
+  return numbers;
+}
+
+TEST(FileSystemTest, TheFileMadeLastIsCurrentAndEntitiesJoinTheCurrentFile) {
+  auto first = std::make_unique<igsFile>();
+  EXPECT_EQ(&igsObjectSystem::file(), first.get());
+  auto* a = new testNode;
+  auto second = std::make_unique<igsFile>();
+  EXPECT_EQ(&igsObjectSystem::file(), second.get());
+  auto* b = new testNode;
+  EXPECT_EQ(&a->file(), first.get());
+  EXPECT_EQ(&b->file(), second.get());
+  EXPECT_EQ(a->de_number(), 1);
+  EXPECT_EQ(b->de_number(), 1);
+
+  // DE numbers bind in the current file.
+  EXPECT_EQ(igsObjectPtr(1)(), b);
+  igsObjectSystem::set_current_file(*first);
+  EXPECT_EQ(igsObjectPtr(1)(), a);
+  auto* c = new testNode;
+  EXPECT_EQ(&c->file(), first.get());
+  EXPECT_EQ(c->de_number(), 3);
+
+  igsFilecoDynArrPtrcoPtrcoDynArr files;
+  igsObjectSystem::get_all_files(files);
+  ASSERT_EQ(files.size(), igsObjectSystem::num_files());
+  std::vector<igsFile*> open(files.begin(), files.end());
+  auto at = [&](igsFile* f) { return std::find(open.begin(), open.end(), f) - open.begin(); };
+  EXPECT_LT(at(first.get()), at(second.get())); // slot order
+  EXPECT_LT(at(second.get()), files.size());
+
+  // A reference from one file's entity to another's is nulled when that file closes.
+  a->add_child(b);
+  int open_before = igsObjectSystem::num_files();
+  second.reset();
+  EXPECT_FALSE(a->child(0));
+  EXPECT_EQ(igsObjectSystem::num_files(), open_before - 1);
+  // The closed file was not current: the current file stays.
+  EXPECT_EQ(&igsObjectSystem::file(), first.get());
+
+  // Closing the current file leaves the lowest open slot current: the system's own file.
+  first.reset();
+  igsObjectSystem::get_all_files(files);
+  ASSERT_GT(files.size(), 0);
+  EXPECT_EQ(&igsObjectSystem::file(), files[0]);
+}
+
+TEST(FileSystemTest, SetCurrentFileIgnoresAFileThatIsNotOpen) {
+  auto open = std::make_unique<igsFile>();
+  igsFile* closed = new igsFile;
+  igsFile const& stale = *closed;
+  int slot_count = igsObjectSystem::num_files();
+  delete closed;
+  EXPECT_EQ(igsObjectSystem::num_files(), slot_count - 1);
+  igsObjectSystem::set_current_file(*open);
+  EXPECT_EQ(&igsObjectSystem::file(), open.get());
+  (void)stale;
+}
+
+TEST_F(FileTest, DeletingLeavesTheSlotCountAndTheNextEntityTakesTheFreedSlot) {
+  auto* a = new testNode;
+  auto* b = new testNode;
+  auto* c = new testNode;
+  (void)a;
+  (void)c;
+  delete b;
+  EXPECT_EQ(file->num_entities(), 2);
+  EXPECT_EQ(file->num_slots(), 3);
+  EXPECT_EQ(de_numbers(*file), (std::vector<int>{1, 5}));
+  auto* d = new testNode;
+  EXPECT_EQ(d->de_number(), 3);
+  EXPECT_EQ(file->num_slots(), 3);
+}
+
+TEST_F(FileTest, ReplaceEntityMovesReferencesAndTheDeNumber) {
+  auto* parent = new testNode;
+  auto* old_entity = new testNode(1);
+  auto* other = new testNode;
+  auto* replacement = new testNode(2);
+  parent->add_child(old_entity);
+  other->add_child(old_entity);
+  igsObjectPtr held(replacement);
+  old_entity->add_child(other); // references the old entity held are not carried over
+  int old_de = old_entity->de_number();
+  ASSERT_EQ(old_de, 3);
+  ASSERT_EQ(replacement->de_number(), 7);
+  int managers = file->num_managers();
+
+  file->replace_entity(old_entity, replacement);
+  EXPECT_EQ(replacement->de_number(), old_de);
+  EXPECT_EQ(replacement->num_references(), 3); // 2 moved + 1 it had
+  EXPECT_EQ(parent->child(0)(), replacement);
+  EXPECT_EQ(other->child(0)(), replacement);
+  EXPECT_EQ(other->num_references(), 0);
+  EXPECT_EQ(igsObjectPtr(old_de)(), replacement);
+  EXPECT_EQ(file->num_entities(), 3);
+  EXPECT_EQ(file->num_managers(), managers - 1);
+  EXPECT_EQ(de_numbers(*file), (std::vector<int>{1, 3, 5}));
+  // The new entity's old slot is free and taken next.
+  EXPECT_EQ((new testNode)->de_number(), 7);
+
+  // Calls that name no two entities of this file change nothing.
+  auto elsewhere = std::make_unique<igsFile>();
+  auto* stranger = new testNode;
+  file->replace_entity(replacement, stranger);
+  file->replace_entity(replacement, replacement);
+  file->replace_entity(nullptr, replacement);
+  EXPECT_EQ(replacement->de_number(), old_de);
+  EXPECT_EQ(&stranger->file(), elsewhere.get());
+  igsObjectSystem::set_current_file(*file);
+}
+
+TEST_F(FileTest, CompressPacksTheTableAndForgetsTheFreeSlots) {
+  std::vector<testNode*> nodes;
+  for (int i = 0; i < 6; ++i) nodes.push_back(new testNode(i));
+  igsObjectPtr to_last(nodes[5]);
+  delete nodes[1];
+  delete nodes[3];
+  delete nodes[4];
+  EXPECT_EQ(de_numbers(*file), (std::vector<int>{1, 5, 11}));
+  file->compress();
+  EXPECT_EQ(de_numbers(*file), (std::vector<int>{1, 3, 5}));
+  EXPECT_EQ(file->num_slots(), 3);
+  EXPECT_EQ(to_last(), nodes[5]);
+  EXPECT_EQ(nodes[5]->de_number(), 5);
+  EXPECT_EQ(igsObjectPtr(3)(), nodes[2]);
+  // No freed slot is left: the next entity comes after the last.
+  EXPECT_EQ((new testNode)->de_number(), 7);
+}
+
+TEST_F(FileTest, ForwardReferencesThatNeverGetAnEntityStayNullForGood) {
+  igsObjectPtr dangling(9);
+  new testNode;
+  EXPECT_EQ(file->num_managers(), 2);
+  file->remove_forward_references();
+  EXPECT_EQ(file->num_managers(), 1);
+  for (int i = 0; i < 5; ++i) new testNode;
+  EXPECT_FALSE(dangling);
+  EXPECT_TRUE(igsObjectPtr(9)); // a new reference binds to the entity now there
+}
+
+TEST_F(FileTest, IteratorsStopAtTopLevelEntitiesOrAtOneExactClass) {
+  auto* root = new testNode;
+  auto* special = new testSpecialNode;
+  auto* child = new testNode;
+  auto* lone_special = new testSpecialNode;
+  root->add_child(child);
+  root->add_child(special);
+  (void)lone_special;
+
+  EXPECT_EQ(de_numbers(*file), (std::vector<int>{1, 3, 5, 7}));
+  std::vector<int> top;
+  for (igsFileIT it(file.get(), 1); ++it;) top.push_back(it()->de_number());
+  EXPECT_EQ(top, (std::vector<int>{1, 7}));
+
+  std::vector<int> exact_nodes, exact_special;
+  for (igsFileTypeIT it(file.get(), testNode::type()); ++it;)
+    exact_nodes.push_back(it()->de_number());
+  for (igsFileTypeIT it(file.get(), testSpecialNode::type()); ++it;)
+    exact_special.push_back(it()->de_number());
+  EXPECT_EQ(exact_nodes, (std::vector<int>{1, 5}));
+  EXPECT_EQ(exact_special, (std::vector<int>{3, 7}));
+  EXPECT_TRUE(special->typeof(testNode::type()));
+  EXPECT_FALSE(special->isa(testNode::type()));
+  EXPECT_TRUE(special->typeof(igsObject::type()));
+  EXPECT_STREQ(special->objtype().name(), "testSpecialNode");
+
+  // An iterator ends at -1 with a null current entity, and a walk survives deletions.
+  igsFileIT it(file.get());
+  EXPECT_EQ(it(), nullptr);
+  ASSERT_TRUE(++it);
+  int seen = 1;
+  delete child;
+  while (++it) ++seen;
+  EXPECT_EQ(seen, 3);
+  EXPECT_EQ(it(), nullptr);
+}
+
+TEST_F(FileTest, PrintShowsEachEntityOnceAndEndsOnCycles) {
+  file->set_pathname("part.igs");
+  auto* a = new testNode(1);
+  auto* b = new testNode(2);
+  auto* shared = new testNode(3);
+  a->add_child(shared);
+  b->add_child(shared);
+  b->add_child(b); // a cycle
+  b->add_child(igsObjectPtr(99));
+  delete new testNode; // a hole: NoOfEntities counts slots
+  EXPECT_EQ(printed(*file), "IgesFile = {\n"
+                            "  Pathname = \"part.igs\"\n"
+                            "  NoOfEntities = 4\n"
+                            "  Entities = {\n"
+                            "    @1(9001) = {\n"
+                            "      Value = 1\n"
+                            "      Child(0)= {\n"
+                            "        @5(9001) = {\n"
+                            "          Value = 3\n"
+                            "        }\n"
+                            "      }\n"
+                            "    }\n"
+                            "    @3(9001) = {\n"
+                            "      Value = 2\n"
+                            "      Child(0)= {\n"
+                            "        @5(9001) = {\n"
+                            "        }\n"
+                            "      }\n"
+                            "      Child(1)= {\n"
+                            "        @3(9001) = {\n"
+                            "        }\n"
+                            "      }\n"
+                            "      Child(2)= {\n"
+                            "        (NullPointer)\n"
+                            "      }\n"
+                            "    }\n"
+                            "    @5(9001) = {\n"
+                            "    }\n"
+                            "  }\n"
+                            "}\n");
+  // A print of its own starts a new walk.
+  EXPECT_EQ(printed(*shared), "@5(9001) = {\n  Value = 3\n}\n");
+}
+
+TEST_F(FileTest, CheckVisitsEachEntityOnceAndEndsOnCycles) {
+  auto* a = new testNode(1);
+  auto* b = new testNode(-1);
+  auto* good = new testNode(2);
+  a->add_child(b);
+  b->add_child(a);
+  b->add_child(good);
+  EXPECT_EQ(a->check(), 0);
+  EXPECT_EQ(a->checks(), 1);
+  EXPECT_EQ(b->checks(), 1);
+  EXPECT_EQ(good->checks(), 1);
+  // b: its negative value; a: its bad child. b saw a still in progress (0), so it also
+  // reported a as a bad child.
+  EXPECT_EQ(b->num_logged_errors(), 2);
+  EXPECT_EQ(a->num_logged_errors(), 1);
+  EXPECT_EQ(good->num_logged_errors(), 0);
+  EXPECT_EQ(good->check(), 1);
+
+  // Inside one walk an entity is checked once, whoever asks.
+  igsObjectSystem::reentrant_start();
+  EXPECT_EQ(a->check(), 0);
+  EXPECT_EQ(b->check(), 0);
+  EXPECT_EQ(b->check(), 0);
+  igsObjectSystem::reentrant_end();
+  EXPECT_EQ(a->checks(), 2);
+  EXPECT_EQ(b->checks(), 2);
+
+  // A new check drops the old object errors and raises them afresh; structure errors stay.
+  b->set_value(5);
+  b->raise_structure_error();
+  EXPECT_EQ(b->num_logged_errors(), 3);
+  EXPECT_EQ(b->check(), 0); // a (visited from b) is bad: 1 object error, 1 structure error
+  EXPECT_EQ(b->num_logged_errors(), 2);
+  EXPECT_EQ(object_log().num_errors(b->de_number()), 1);
+  EXPECT_EQ(structure_log().num_errors(b->de_number()), 1);
+}
+
+TEST_F(FileTest, DirectoryEntrySettersRefuseWhatTheyCannotHold) {
+  auto* a = new testNode;
+  auto* b = new testNode;
+  igsDirectoryEntry& de = a->directory_entry();
+  EXPECT_EQ(de.entity_type(), testNode::type_number);
+  EXPECT_EQ(de.form_number(), 0);
+  ASSERT_NE(de.manager(), nullptr);
+  EXPECT_NE(de.manager(), b->directory_entry().manager());
+  EXPECT_EQ(de.line_font(), 1);
+  EXPECT_EQ(de.set_view(igsObjectPtr()), 0);
+  EXPECT_EQ(de.set_view(b), 1);
+  EXPECT_EQ(de.view()(), b);
+  de.remove_view();
+  EXPECT_FALSE(de.view());
+  EXPECT_EQ(de.set_entity_label(utString()), 0);
+  EXPECT_EQ(de.set_entity_label("POINT"), 1);
+  EXPECT_EQ(de.entity_label(), "POINT");
+  EXPECT_EQ(de.set_entity_subscript(-1), 0);
+  EXPECT_EQ(de.set_entity_subscript(7), 1);
+  EXPECT_EQ(de.entity_subscript(), 7);
+  EXPECT_EQ(de.set_line_weight_number(-2), 0);
+  EXPECT_EQ(de.line_weight_number(), 0);
+  de.set_structure(-5);
+  EXPECT_EQ(de.structure(), -5);
+
+  // The DE's references are dropped with the entity's children.
+  auto* label = new testNode;
+  de.set_label_display(label);
+  de.set_view(b);
+  igsObjectPtr keep_b(b);
+  a->drop_children();
+  EXPECT_FALSE(de.view());
+  EXPECT_FALSE(de.label_display());
+  EXPECT_EQ(file->num_entities(), 2); // the label display went, b is still held
+}
+
+// Runs last in this binary: the file stays open, with entities, references and errors, until
+// the system closes it at exit (the leak checker watches that).
+TEST(FileSystemTest, FilesStillOpenAtExitAreClosedByTheSystem) {
+  auto* left_open = new igsFile;
+  auto* a = new testNode(-1);
+  a->add_child(new testNode);
+  a->add_child(igsObjectPtr(41));
+  a->check();
+  new igsFileBlankLine;
+  EXPECT_EQ(a->num_logged_errors(), 1);
+  EXPECT_EQ(&igsObjectSystem::file(), left_open);
+}
+
+} // namespace

@@ -1,0 +1,170 @@
+#include "core/objectTestSupport.h"
+
+#include <climits>
+
+namespace {
+
+using ReferenceTest = FileTest;
+
+TEST_F(ReferenceTest, DeNumberBindsBeforeTheEntityExistsAndReachesItWhenItArrives) {
+  igsObjectPtr first(1);
+  igsObjectPtr third(5);
+  EXPECT_FALSE(first);
+  EXPECT_TRUE(first == igsObjectPtr());
+  EXPECT_EQ(file->num_managers(), 2); // two placeholders
+  EXPECT_EQ(file->num_entities(), 0);
+
+  auto* a = new testNode(1);
+  EXPECT_EQ(a->de_number(), 1);
+  EXPECT_EQ(first(), a); // the same reference, with nothing done to it
+  EXPECT_EQ(a->num_references(), 1);
+  EXPECT_EQ(file->num_managers(), 2); // the placeholder became the entity's manager
+
+  auto* b = new testNode(2);
+  EXPECT_FALSE(third);
+  auto* c = new testNode(3);
+  EXPECT_EQ(third(), c);
+  EXPECT_EQ(igsObjectPtr(3)(), b); // an existing slot binds at once
+  EXPECT_EQ(file->num_managers(), 3);
+}
+
+TEST_F(ReferenceTest, NumbersThatAreNotPositiveAndOddGiveNullAndAddNothing) {
+  new testNode;
+  for (int de : {0, 2, -3, -1, INT_MIN, 4}) {
+    igsObjectPtr p(de);
+    EXPECT_FALSE(p) << de;
+    EXPECT_TRUE(p == igsObjectPtr()) << de;
+  }
+  EXPECT_EQ(file->num_managers(), 1);
+  EXPECT_EQ(file->num_slots(), 1);
+}
+
+TEST_F(ReferenceTest, DeletingAnEntityNullsEveryReferenceAtOnce) {
+  auto* target = new testNode;
+  auto* holder = new testNode;
+  igsObjectPtr direct(target);
+  igsObjectPtr by_number(target->de_number());
+  igsObjectPtr copy(direct);
+  holder->add_child(target);
+  igsObjectPtrcoDynArr many;
+  for (int i = 0; i < 40; ++i) many.append(direct); // the array moves its elements as it grows
+  EXPECT_EQ(target->num_references(), 44);
+  for (igsObjectPtr const& p : many) ASSERT_EQ(p(), target);
+
+  delete target;
+  EXPECT_FALSE(direct);
+  EXPECT_FALSE(by_number);
+  EXPECT_FALSE(copy);
+  EXPECT_FALSE(holder->child(0));
+  for (igsObjectPtr const& p : many) EXPECT_FALSE(p);
+  EXPECT_EQ(file->num_entities(), 1);
+  EXPECT_EQ(file->num_slots(), 2);
+}
+
+TEST_F(ReferenceTest, AssignmentCopyAndMoveKeepTheCountExact) {
+  auto* a = new testNode;
+  auto* b = new testNode;
+  igsObjectPtr p(a);
+  igsObjectPtr q(a);
+  igsObjectPtr& same = p;
+  p = same; // leaves and rejoins the same manager
+  EXPECT_EQ(p(), a);
+  EXPECT_EQ(a->num_references(), 2);
+  q = b;
+  EXPECT_EQ(a->num_references(), 1);
+  EXPECT_EQ(b->num_references(), 1);
+  igsObjectPtr moved(std::move(q));
+  EXPECT_FALSE(q);
+  EXPECT_EQ(moved(), b);
+  EXPECT_EQ(b->num_references(), 1);
+  p = std::move(moved);
+  EXPECT_EQ(p(), b);
+  EXPECT_EQ(a->num_references(), 0);
+  EXPECT_EQ(b->num_references(), 1);
+  p = igsObjectPtr();
+  EXPECT_EQ(b->num_references(), 0);
+  // Losing the last reference does not delete.
+  EXPECT_EQ(file->num_entities(), 2);
+  delete b;
+  EXPECT_FALSE(moved);
+  EXPECT_FALSE(p);
+}
+
+TEST_F(ReferenceTest, UnreferenceRunsDownWhatOnlyTheParentHolds) {
+  auto* root = new testNode;
+  auto* owned = new testNode;
+  auto* leaf = new testNode;
+  auto* shared = new testNode;
+  root->add_child(owned);
+  owned->add_child(leaf);
+  owned->add_child(shared);
+  igsObjectPtr keeper(shared);
+  int leaf_de = leaf->de_number();
+
+  // Two references: the first unreference nulls only itself.
+  igsObjectPtr second(owned);
+  second.unreference();
+  EXPECT_FALSE(second);
+  EXPECT_EQ(file->num_entities(), 4);
+
+  // The last one deletes the entity and what only it held; `leaf` loses its last holder too.
+  root->drop_child(0);
+  EXPECT_FALSE(root->child(0));
+  EXPECT_EQ(file->num_entities(), 2);
+  EXPECT_FALSE(igsObjectPtr(leaf_de));
+  EXPECT_EQ(keeper(), shared);
+  EXPECT_EQ(shared->num_references(), 1);
+}
+
+TEST_F(ReferenceTest, UnreferenceOfTwoEntitiesHoldingOnlyEachOtherDeletesBoth) {
+  auto* a = new testNode;
+  auto* b = new testNode;
+  a->add_child(b);
+  b->add_child(a);
+  new testNode;     // stays
+  a->drop_child(0); // b goes, its reference to a was a's last, so a goes too
+  EXPECT_EQ(file->num_entities(), 1);
+}
+
+TEST_F(ReferenceTest, ReferenceListGrowsBySteps2Then16Then128) {
+  auto* target = new testNode;
+  igsObjectManager const& manager = *target->directory_entry().manager();
+  igsObjectPtrcoDynArr refs(2000, 0);
+  struct Step {
+    int references, increment;
+  };
+  for (Step step :
+       {Step{1, 2}, {16, 2}, {17, 16}, {128, 16}, {129, 128}, {1024, 128}, {1025, 1024}}) {
+    while (refs.size() < step.references) refs.append(igsObjectPtr(target));
+    EXPECT_EQ(manager.num_references(), step.references);
+    EXPECT_EQ(manager.pointer_list_increment(), step.increment) << step.references;
+    EXPECT_GE(manager.pointer_list_capacity(), step.references);
+    EXPECT_LT(manager.pointer_list_capacity(), step.references + step.increment * 8);
+  }
+  // Freed positions are reused before the list grows again.
+  int capacity = manager.pointer_list_capacity();
+  for (int i = 0; i < 100; ++i) refs[i] = igsObjectPtr();
+  for (int i = 0; i < 100; ++i) refs[i] = target;
+  EXPECT_EQ(manager.pointer_list_capacity(), capacity);
+  EXPECT_EQ(manager.num_references(), 1025);
+  int walked = 0;
+  for (igsObjectManagerIT it(target->directory_entry().manager()); ++it;) {
+    EXPECT_EQ((*it())(), target);
+    ++walked;
+  }
+  EXPECT_EQ(walked, 1025);
+}
+
+TEST_F(ReferenceTest, ComparisonAndConversionLookAtTheTargets) {
+  auto* a = new testNode;
+  igsObjectPtr placeholder(11);
+  EXPECT_TRUE(placeholder == igsObjectPtr());
+  EXPECT_EQ(static_cast<void*>(placeholder), nullptr);
+  EXPECT_TRUE(igsObjectPtr(a) == igsObjectPtr(1));
+  EXPECT_FALSE(igsObjectPtr(a) == igsObjectPtr());
+  EXPECT_EQ(static_cast<void*>(igsObjectPtr(a)), static_cast<void*>(a));
+  EXPECT_EQ(&*igsObjectPtr(a), a);
+  EXPECT_EQ(igsObjectPtr(static_cast<igsObject*>(nullptr)), igsObjectPtr());
+}
+
+} // namespace

@@ -1,0 +1,212 @@
+#include "core/objectTestSupport.h"
+
+#include "core/igsFileErrors.h"
+
+#include <vector>
+
+namespace {
+
+IGS_ERROR_DECLARE(testGlobalProblem, igsGlobalError, REPORT)
+IGS_ERROR_DECLARE(testStartProblem, igsStartError, REPORT)
+IGS_ERROR_DEFINE(testGlobalProblem, igsGlobalError, REPORT)
+IGS_ERROR_DEFINE(testStartProblem, igsStartError, REPORT)
+
+using LogTest = FileTest;
+
+// A new object error for the entity, tagged as its check would do it.
+igsError* raise(testNode const& node) {
+  auto* e = new testNodeNegativeValue(node.value());
+  e->set_key(node.de_number());
+  return e;
+}
+
+// The error's position in the active list, once the log has filed what was pending.
+int filed_position(igsError* e) {
+  e->log()->num_errors();
+  return e->log_position();
+}
+
+std::vector<igsError*> walk(igsSimpleSectionLog& log) {
+  std::vector<igsError*> met;
+  for (igsSimpleSectionLogIT it(&log); ++it;) met.push_back(it());
+  return met;
+}
+
+TEST_F(LogTest, AnErrorFilesItselfInTheCurrentFilesLogWhenConstructed) {
+  auto* node = new testNode(-1);
+  igsError* e = raise(*node);
+  EXPECT_EQ(e->log(), &log().get_section_log(igsObjectLog));
+  EXPECT_EQ(object_log().num_errors(node->de_number()), 1);
+  EXPECT_EQ(node->num_logged_errors(), 1);
+  EXPECT_EQ(walk(object_log()), std::vector<igsError*>{e});
+
+  // With another file current, the next error goes to that file's log.
+  auto other = std::make_unique<igsFile>();
+  igsError* elsewhere = raise(*node);
+  EXPECT_EQ(igsObjectSystem::log().get_section_log(igsObjectLog).num_errors(), 1);
+  igsObjectSystem::set_current_file(*file);
+  EXPECT_EQ(object_log().num_errors(), 1);
+  EXPECT_EQ(walk(object_log()), std::vector<igsError*>{e});
+  EXPECT_NE(elsewhere->log(), e->log());
+}
+
+TEST_F(LogTest, ErrorsAreFiledUnderTheirKeyAtTheNextLookAtTheLog) {
+  // Created untagged, keyed before anything reads the log: counted under the key.
+  auto* late = new testNodeNegativeValue(-4);
+  EXPECT_EQ(late->log_position(), 0); // its place among the pending
+  late->set_key(7);
+  EXPECT_EQ(object_log().num_errors(7), 1);
+
+  // Keyed only after the log was read: it stays counted under the unset key.
+  auto* untagged = new testNodeNegativeValue(-5);
+  EXPECT_EQ(object_log().num_errors(), 2);
+  untagged->set_key(9);
+  EXPECT_EQ(object_log().num_errors(9), 0);
+  EXPECT_EQ(object_log().num_errors(igsIndexedError::unset_key), 1);
+  EXPECT_EQ(untagged->log_position(), 1);
+
+  // A structure error is keyed by its constructor, so it needs no tag.
+  new testNodeOddValue(21, 3);
+  EXPECT_EQ(structure_log().num_errors(21), 1);
+}
+
+TEST_F(LogTest, ClearByKeyLeavesTheOtherErrorsWhereTheyAre) {
+  auto* a = new testNode(-1);
+  auto* b = new testNode(-2);
+  auto* c = new testNode(-3);
+  std::vector<igsError*> made = {raise(*a), raise(*b), raise(*a), raise(*c), raise(*a)};
+  EXPECT_EQ(a->num_logged_errors(), 3);
+  object_log().clear(a->de_number());
+  EXPECT_EQ(a->num_logged_errors(), 0);
+  EXPECT_EQ(object_log().num_errors(), 2);
+  EXPECT_EQ(made[1]->log_position(), 1);
+  EXPECT_EQ(made[3]->log_position(), 3);
+  EXPECT_EQ(walk(object_log()), (std::vector<igsError*>{made[1], made[3]}));
+  // Freed slots are reused, the last freed first.
+  EXPECT_EQ(filed_position(raise(*c)), 4);
+  EXPECT_EQ(filed_position(raise(*c)), 2);
+  EXPECT_EQ(c->num_logged_errors(), 3);
+  // A key with no errors clears nothing.
+  object_log().clear(12345);
+  EXPECT_EQ(object_log().num_errors(), 4);
+}
+
+TEST_F(LogTest, MarkingAsFixedTakesTheErrorOutOfTheCountsAndFreesItsSlot) {
+  auto* node = new testNode(-1);
+  igsError* first = raise(*node);
+  igsError* second = raise(*node);
+  node->raise_structure_error();
+  EXPECT_EQ(node->num_logged_errors(), 3);
+
+  log().mark_as_fixed(first);
+  EXPECT_EQ(node->num_logged_errors(), 2);
+  EXPECT_EQ(object_log().num_errors(), 1);
+  EXPECT_EQ(walk(object_log()), std::vector<igsError*>{second});
+  // Marked once only: a second call finds it in no active list.
+  EXPECT_EQ(object_log().mark_as_fixed(first), 0);
+  EXPECT_EQ(node->num_logged_errors(), 2);
+  // The next error takes the freed slot.
+  EXPECT_EQ(filed_position(raise(*node)), 0);
+
+  // Each section log takes only its own kind.
+  EXPECT_EQ(log().get_section_log(igsGlobalLog).mark_as_fixed(second), 0);
+  EXPECT_EQ(object_log().num_errors(node->de_number()), 2);
+}
+
+TEST_F(LogTest, AWalkThatMarksEachErrorAsFixedVisitsEachOnce) {
+  auto* a = new testNode(-1);
+  auto* b = new testNode(-2);
+  std::vector<igsError*> made = {raise(*a), raise(*b), raise(*a), raise(*b)};
+  std::vector<igsError*> met;
+  for (igsSimpleSectionLogIT it(&object_log()); ++it;) {
+    met.push_back(it());
+    log().mark_as_fixed(it());
+    EXPECT_EQ(it(), nullptr); // a null slot is left behind
+  }
+  EXPECT_EQ(met, made);
+  EXPECT_EQ(object_log().num_errors(), 0);
+  EXPECT_EQ(a->num_logged_errors(), 0);
+  EXPECT_TRUE(walk(object_log()).empty());
+}
+
+TEST_F(LogTest, ErrorsOutliveTheirEntity) {
+  auto* node = new testNode(-1);
+  new testNode;
+  int de = node->de_number();
+  node->check();
+  node->raise_structure_error();
+  delete node;
+  EXPECT_EQ(object_log().num_errors(de), 1);
+  EXPECT_EQ(structure_log().num_errors(de), 1);
+  // The next entity in that slot inherits the count, by DE number.
+  EXPECT_EQ((new testNode)->num_logged_errors(), 2);
+}
+
+TEST_F(LogTest, EachBaseHasItsOwnSectionLog) {
+  struct Case {
+    igsError* error;
+    igsLogID section;
+  };
+  std::vector<Case> cases = {
+      {new igsFileBlankLine, igsTerminateLog},   {new igsFileInvalidLineNumbers, igsTerminateLog},
+      {new igsFileNoPDData(5), igsStructureLog}, {new igsFileLineNumberTooLarge, igsStructureLog},
+      {new testGlobalProblem, igsGlobalLog},     {new testStartProblem, igsStartLog},
+      {new testNodeBadChild(0), igsObjectLog},
+  };
+  for (Case const& c : cases) {
+    EXPECT_EQ(c.error->log(), &log().get_section_log(c.section)) << c.error->objtype().name();
+    EXPECT_TRUE(c.error->typeof(log().get_section_log(c.section).accepted_type()));
+  }
+  int counts[] = {1, 2, 1, 1, 2};
+  for (int id = igsObjectLog; id <= igsTerminateLog; ++id)
+    EXPECT_EQ(log().get_section_log(static_cast<igsLogID>(id)).num_errors(), counts[id]) << id;
+  EXPECT_EQ(structure_log().num_errors(5), 1);
+  EXPECT_EQ(structure_log().num_errors(igsIndexedError::unset_key), 1);
+  EXPECT_EQ(log().get_indexed_log(igsGlobalLog), nullptr);
+  EXPECT_EQ(log().get_indexed_log(igsStructureLog), &structure_log());
+
+  // A simple log walks in slot order too, and print changes nothing.
+  log().print();
+  EXPECT_EQ(walk(log().get_section_log(igsTerminateLog)),
+            (std::vector<igsError*>{cases[0].error, cases[1].error}));
+  EXPECT_EQ(object_log().num_errors(), 1);
+}
+
+TEST_F(LogTest, AnErrorDestroyedByItsHolderLeavesItsLog) {
+  auto* node = new testNode(-1);
+  igsError* pending = raise(*node);
+  delete pending; // still pending: never counted
+  EXPECT_EQ(node->num_logged_errors(), 0);
+  igsError* active = raise(*node);
+  igsError* fixed = raise(*node);
+  igsError* kept = raise(*node);
+  log().mark_as_fixed(fixed);
+  EXPECT_EQ(node->num_logged_errors(), 2);
+  delete active;
+  delete fixed;
+  EXPECT_EQ(node->num_logged_errors(), 1);
+  EXPECT_EQ(walk(object_log()), std::vector<igsError*>{kept});
+  igsError* terminate = new igsFileBlankLine;
+  delete terminate;
+  EXPECT_EQ(log().get_section_log(igsTerminateLog).num_errors(), 0);
+}
+
+TEST_F(LogTest, ClearDestroysTheActiveErrorsOfASection) {
+  auto* node = new testNode(-1);
+  raise(*node);
+  igsError* fixed = raise(*node);
+  log().mark_as_fixed(fixed);
+  raise(*node); // pending at the clear
+  new igsFileBlankLine;
+  object_log().clear();
+  log().get_section_log(igsTerminateLog).clear();
+  EXPECT_EQ(node->num_logged_errors(), 0);
+  EXPECT_EQ(object_log().num_errors(), 0);
+  EXPECT_TRUE(walk(object_log()).empty());
+  EXPECT_EQ(filed_position(raise(*node)), 0);
+  EXPECT_EQ(node->num_logged_errors(), 1);
+  // What is left (one active, one fixed, one pending) goes with the file.
+  raise(*node);
+}
+
+} // namespace
