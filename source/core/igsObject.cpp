@@ -1,6 +1,6 @@
 #include "core/igsObject.h"
 
-#include "core/igsEntityName.h"
+#include "core/igsInfoDB.h"
 #include "core/igsFile.h"
 #include "core/igsObjectSystem.h"
 #include "errors/igsErrorLog.h"
@@ -18,7 +18,7 @@ igsObject::~igsObject() {
 }
 
 utString const& igsObject::name() const {
-  return igs_entity_type_name(directory_entry().entity_type());
+  return igsInfoDB::entity_name(directory_entry().entity_type());
 }
 
 int igsObject::num_logged_errors() const {

@@ -63,6 +63,11 @@ class igsObject {
     tag_error(new (std::nothrow) E(std::forward<A>(arguments)...));
   }
 
+  // Runs the Directory Entry checks selected by `steps` (igsDECheckStep flags, in their fixed
+  // order) and raises their errors; `required_use` is the entity use that IGS_DE_ENTITY_USE
+  // demands.
+  void check_directory_entry(unsigned steps, int required_use = 0) const;
+
   // Stores type and form in the DE; every concrete constructor calls it last.
   void set_directory_entry_type(igsEntityType type, int form);
 
