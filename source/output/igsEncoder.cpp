@@ -138,9 +138,13 @@ void igsDoubleEncoder::encode(double value) {
   add_piece(n, 0);
 }
 
-// A text that the conversion leaves as it was is shared, not copied.
+// A text that the conversion leaves as it was is shared, not copied. A line end or a NUL inside
+// the text would break the 80-column record it lands in, so each becomes a blank, as the reader
+// turns a NUL into a blank.
 void igsTextEncoder::convert(utString const& value) {
   kvaString(value).convert(kvaStringOutputDefault, m_bytes);
+  for (char& c : m_bytes)
+    if (c == '\n' || c == '\r' || c == '\0') c = ' ';
   std::string_view text(m_bytes.data(), static_cast<size_t>(m_bytes.size()));
   if (text == value.view() && !value.is_null())
     m_value = value;
