@@ -5,7 +5,7 @@
 #include "errors/igsError.h"
 #include "support/coNames.h"
 
-enum igsLogID {
+enum igsLogID : int {
   igsObjectLog = 0,
   igsStructureLog = 1,
   igsGlobalLog = 2,
