@@ -158,14 +158,22 @@ TEST_F(FileCheckTest, CheckAndCleanWorkOnTheirOwnFileAndLeaveTheCurrentFileAsItW
   (void)bad;
 }
 
-TEST_F(FileCheckTest, CleanZeroRepairsAndKeepsEveryEntity) {
-  auto* parent = new testNode(1);
-  auto* bad = new testNode(-1);
-  auto* good = new testNode(2);
-  auto* settled = new testNode(3);
-  parent->add_child(bad);
-  parent->add_child(good);
-  settled->raise_structure_error(); // its repair settles it
+// A parent with a bad and a good child, and an entity apart whose structure error is settled by
+// its repair.
+class CleanTest : public FileCheckTest {
+ protected:
+  CleanTest() {
+    parent->add_child(bad);
+    parent->add_child(good);
+    settled->raise_structure_error();
+  }
+  testNode* parent = new testNode(1);
+  testNode* bad = new testNode(-1);
+  testNode* good = new testNode(2);
+  testNode* settled = new testNode(3);
+};
+
+TEST_F(CleanTest, CleanZeroRepairsAndKeepsEveryEntity) {
   file->clean(0);
   EXPECT_EQ(file->num_entities(), 4);
   EXPECT_EQ(object_errors(), (std::vector<std::string>{"testNodeNegativeValue" + at(bad) + "(-1)",
@@ -175,14 +183,7 @@ TEST_F(FileCheckTest, CleanZeroRepairsAndKeepsEveryEntity) {
   EXPECT_EQ(target_of(parent->child(0)), bad);
 }
 
-TEST_F(FileCheckTest, CleanOneLeavesOnlyTheEntitiesWithoutLoggedErrors) {
-  auto* parent = new testNode(1);
-  auto* bad = new testNode(-1);
-  auto* good = new testNode(2);
-  auto* settled = new testNode(3);
-  parent->add_child(bad);
-  parent->add_child(good);
-  settled->raise_structure_error();
+TEST_F(CleanTest, CleanOneLeavesOnlyTheEntitiesWithoutLoggedErrors) {
   igsObjectPtr held_bad(bad);
   igsObjectPtr held_parent(parent);
   igsObjectPtr held_good(good);
