@@ -17,6 +17,15 @@ class igsFile {
   igsFile(igsFile const&) = delete;
   igsFile& operator=(igsFile const&) = delete;
 
+  // Judges the file as reading stored it: each entity once, then the view numbers across the
+  // file. Object errors found before are replaced by what the check finds now; structure
+  // errors stay. Runs with this file current and restores the current file afterwards.
+  void check() const;
+  // Checks, runs every repair (a failed repair does not stop the others) and, with delete_bad
+  // not 0, deletes in slot order the entities that still have logged errors; references to
+  // them read null. Runs with this file current, as check.
+  void clean(int delete_bad);
+
   void print(utOstream& out) const;
   // Moves every reference of the old entity to the new one, deletes the old one and gives
   // the new one its slot, so the new entity takes over the DE number and the write order.
@@ -62,6 +71,11 @@ class igsFile {
   void object_deleted(igsObject* object);
   void ptr_created(igsObjectPtr* ptr, int location);
   void reset_visit_flags();
+  // The checks that compare entities with each other.
+  void check_inter_entity_errors() const;
+  // A view's number must be set, not negative, and not used by an earlier view; each fault is
+  // an error on the view proposing a number above all those in use.
+  void check_the_410_view_numbers() const;
   int system_location() const { return m_system_location; }
   void set_system_location(int location) { m_system_location = location; }
   // The manager in the slot, or null.

@@ -1,0 +1,353 @@
+#include "core/objectTestSupport.h"
+
+#include "errors/igsFixer.h"
+
+#include <algorithm>
+#include <vector>
+
+namespace {
+
+// The tags of the errors whose fix ran, in the order of the calls.
+std::vector<int>& fix_calls() {
+  static std::vector<int> calls;
+  return calls;
+}
+
+// Errors that record their tag when their fix runs and return the result they were made with,
+// one for each base. A structure error's first argument is its DE number.
+#define FIXER_TEST_ERRORS(X)                                                                       \
+  X(fixerObjectRepair, igsObjectError, (int, tag), (int, result))                                  \
+  X(fixerStructureRepair, igsStructureError, (int, de_number), (int, tag), (int, result))          \
+  X(fixerGlobalRepair, igsGlobalError, (int, tag), (int, result))                                  \
+  X(fixerStartRepair, igsStartError, (int, tag), (int, result))                                    \
+  X(fixerTerminateRepair, igsTerminateError, (int, tag), (int, result))
+#define FIXER_DECLARE(Name, Base, ...) IGS_ERROR_DECLARE(Name, Base, FIX, __VA_ARGS__)
+#define FIXER_DEFINE(Name, Base, ...)                                                              \
+  IGS_ERROR_DEFINE(Name, Base, FIX)                                                                \
+  int Name::fix() {                                                                                \
+    fix_calls().push_back(tag());                                                                  \
+    return result();                                                                               \
+  }
+FIXER_TEST_ERRORS(FIXER_DECLARE)
+FIXER_TEST_ERRORS(FIXER_DEFINE)
+
+// A parent's error about its child at `index`, as a composite curve has about a sub-curve that
+// failed its check: repairs of the child come first, and the parent's repair keeps the child
+// if they cleared it, else drops the reference.
+IGS_ERROR_DECLARE(fixerBadChildData, igsObjectError, FIX_OBJ, (int, index), (int, tag))
+IGS_ERROR_DEFINE(fixerBadChildData, igsObjectError, FIX_OBJ)
+
+igsObjectPtr* child_of(int parent_de, int index) {
+  igsObjectPtr parent(parent_de);
+  if (!parent || !parent->typeof(testNode::id)) return nullptr;
+  auto& node = static_cast<testNode&>(*parent);
+  return index < node.num_children() ? &node.child(index) : nullptr;
+}
+
+int fixerBadChildData::obj() {
+  if (!cached_obj()) {
+    igsObjectPtr* child = child_of(key(), index());
+    if (!child || !*child) return 0; // the child has gone
+    set_cached_obj((*child)->de_number());
+  }
+  return cached_obj();
+}
+
+int fixerBadChildData::fix() {
+  fix_calls().push_back(tag());
+  igsObjectPtr* child = child_of(key(), index());
+  if (child && *child && (*child)->num_logged_errors() > 0) *child = igsObjectPtr();
+  return 1;
+}
+
+// A repair that deletes its entity, as one that replaces it by another does.
+IGS_ERROR_DECLARE(fixerDeleteEntity, igsObjectError, FIX, (int, tag))
+IGS_ERROR_DEFINE(fixerDeleteEntity, igsObjectError, FIX)
+
+int fixerDeleteEntity::fix() {
+  fix_calls().push_back(tag());
+  igsObjectPtr entity(key());
+  delete entity();
+  return 1;
+}
+
+// A node on which the tests raise errors directly.
+class fixerNode : public testNode {
+  KVU_DECLARE_TYPE()
+ public:
+  template <class E, class... A> void raise(A... arguments) const { raise_error<E>(arguments...); }
+  // The error about child i, tagged with this node's DE number.
+  void raise_bad_child(int i) const { raise<fixerBadChildData>(i, de_number()); }
+  // An error of its own, tagged with this node's DE number.
+  void raise_own(int result) const { raise<fixerObjectRepair>(de_number(), result); }
+
+ protected:
+  igsObject* make_one() override { return new fixerNode; }
+};
+KVU_DEFINE_TYPE(fixerNode, testNode)
+
+// What a reference reaches, or null; tested, unlike the reference's own call operator.
+void* target(igsObjectPtr const& reference) {
+  return reference;
+}
+
+class FixerTest : public FileTest {
+ protected:
+  FixerTest() { fix_calls().clear(); }
+
+  fixerNode* node() { return new fixerNode; }
+  // A parent whose first child is the given node, with the error that names the child.
+  fixerNode* parent_of(fixerNode* child) {
+    fixerNode* parent = node();
+    parent->add_child(child);
+    parent->raise_bad_child(parent->num_children() - 1);
+    return parent;
+  }
+  static std::vector<int> sorted(std::vector<int> values) {
+    std::sort(values.begin(), values.end());
+    return values;
+  }
+  static int distance(igsFixer const& fixer, igsObject const* entity) {
+    igsFixNode const* n = fixer.find_node(entity->de_number());
+    return n ? n->distance() : -1;
+  }
+  igsFixer fixer;
+};
+
+TEST(FixNodeTest, TheTravellerLeavesTheLongestPathFromTheRootInEachNode) {
+  // root -> a -> c and root -> b -> a: a is reached at 2 first, then at 3 through b, and c
+  // follows it down to 4. A duplicate edge counts as a child of its own.
+  igsFixNode root, a, b, c;
+  root.depends_on(&a);
+  root.depends_on(&b);
+  b.depends_on(&a);
+  a.depends_on(&c);
+  a.depends_on(&c);
+  root.depends_on(nullptr);
+  EXPECT_EQ(root.num_children(), 2);
+  EXPECT_EQ(a.num_children(), 2);
+  igsTraveller traveller;
+  root.accept_traveller(traveller);
+  EXPECT_EQ(traveller.distance_travelled(), 0); // every node entered was left
+  EXPECT_EQ(root.distance(), 1);
+  EXPECT_EQ(b.distance(), 2);
+  EXPECT_EQ(a.distance(), 3);
+  EXPECT_EQ(c.distance(), 4);
+
+  // A second walk from the same root finds nothing longer and changes nothing.
+  root.accept_traveller(traveller);
+  EXPECT_EQ(c.distance(), 4);
+}
+
+TEST(FixNodeTest, ALongChainIsWalkedWithoutDeepeningTheCallStack) {
+  constexpr int length = 200000;
+  std::vector<igsFixNode> chain(length);
+  for (int i = 0; i + 1 < length; ++i) {
+    chain[i].depends_on(&chain[i + 1]);
+    chain[i + 1].used();
+  }
+  EXPECT_FALSE(chain[0].is_used());
+  EXPECT_TRUE(chain[1].is_used());
+  igsTraveller traveller;
+  chain[0].accept_traveller(traveller);
+  EXPECT_EQ(chain[0].distance(), 1);
+  EXPECT_EQ(chain[length / 2].distance(), length / 2 + 1);
+  EXPECT_EQ(chain[length - 1].distance(), length);
+}
+
+TEST_F(FixerTest, ChildrenAreRepairedFirstAndParentsSeeHowTheyFared) {
+  // top -> middle -> leaf, each with an error of its own raised before the error naming its
+  // child, so log order is the reverse of the order the repairs need.
+  fixerNode* leaf = node();
+  fixerNode* middle = node();
+  fixerNode* top = node();
+  top->raise_own(1);
+  middle->raise_own(1);
+  leaf->raise_own(1);
+  top->add_child(middle);
+  top->raise_bad_child(0);
+  middle->add_child(leaf);
+  middle->raise_bad_child(0);
+  EXPECT_EQ(top->num_logged_errors(), 2);
+
+  fixer.fix(log(), 0);
+  int t = top->de_number(), m = middle->de_number(), l = leaf->de_number();
+  EXPECT_EQ(fix_calls(), (std::vector<int>{l, m, m, t, t}));
+  EXPECT_EQ(distance(fixer, top), 1);
+  EXPECT_EQ(distance(fixer, middle), 2);
+  EXPECT_EQ(distance(fixer, leaf), 3);
+  EXPECT_EQ(fixer.num_nodes(), 3);
+  // Each child was clear when its parent's repair looked at it, so both stay.
+  EXPECT_EQ(target(top->child(0)), middle);
+  EXPECT_EQ(target(middle->child(0)), leaf);
+  EXPECT_EQ(object_log().num_errors(), 0);
+}
+
+TEST_F(FixerTest, AnUnrepairableChildStaysActiveAndItsParentDropsIt) {
+  fixerNode* good = node();
+  fixerNode* bad = node();
+  good->raise_own(1);
+  bad->raise_own(0);
+  fixerNode* keeps = parent_of(good);
+  fixerNode* drops = parent_of(bad);
+
+  fixer.fix(log(), 1);
+  EXPECT_EQ(good->num_logged_errors(), 0);
+  EXPECT_EQ(bad->num_logged_errors(), 1);
+  EXPECT_EQ(target(keeps->child(0)), good);
+  EXPECT_FALSE(drops->child(0));
+  EXPECT_EQ(keeps->num_logged_errors(), 0);
+  EXPECT_EQ(drops->num_logged_errors(), 0);
+  // Dropping the reference does not delete the child.
+  EXPECT_EQ(target(igsObjectPtr(bad->de_number())), bad);
+  EXPECT_EQ(object_log().num_errors(), 1);
+  // Each child's repair came before its parent's.
+  std::vector<int> const& calls = fix_calls();
+  auto at = [&](int tag) { return std::find(calls.begin(), calls.end(), tag) - calls.begin(); };
+  EXPECT_LT(at(good->de_number()), at(keeps->de_number()));
+  EXPECT_LT(at(bad->de_number()), at(drops->de_number()));
+}
+
+TEST_F(FixerTest, AnEntityReachedDirectlyAndThroughTwoIntermediatesHasDistanceFour) {
+  // near -> shared, and far -> first -> second -> shared.
+  fixerNode* shared = node();
+  shared->raise_own(1);
+  shared->raise_own(1);
+  fixerNode* near = parent_of(shared);
+  fixerNode* second = parent_of(shared);
+  fixerNode* first = parent_of(second);
+  fixerNode* far = parent_of(first);
+
+  fixer.fix(log(), 1);
+  EXPECT_EQ(distance(fixer, shared), 4);
+  EXPECT_EQ(distance(fixer, second), 3);
+  EXPECT_EQ(distance(fixer, first), 2);
+  EXPECT_EQ(distance(fixer, near), 1);
+  EXPECT_EQ(distance(fixer, far), 1);
+  EXPECT_TRUE(fixer.find_node(shared->de_number())->is_used());
+
+  // The shared entity's two errors run first, once each however many paths lead to it; then
+  // the rest by distance, the two roots in either order.
+  int s = shared->de_number();
+  std::vector<int> const& calls = fix_calls();
+  ASSERT_EQ(calls.size(), 6u);
+  EXPECT_EQ(std::vector<int>(calls.begin(), calls.begin() + 4),
+            (std::vector<int>{s, s, second->de_number(), first->de_number()}));
+  EXPECT_EQ(sorted({calls[4], calls[5]}), sorted({near->de_number(), far->de_number()}));
+  EXPECT_EQ(object_log().num_errors(), 0);
+}
+
+TEST_F(FixerTest, WithFlagZeroAFailedRepairEndsOnlyItsEntitysErrors) {
+  fixerNode* stuck = node();
+  fixerNode* other = node();
+  stuck->raise<fixerObjectRepair>(11, 0);
+  stuck->raise<fixerObjectRepair>(12, 1);
+  other->raise<fixerObjectRepair>(21, 1);
+  fixer.fix(log(), 0);
+  EXPECT_EQ(sorted(fix_calls()), (std::vector<int>{11, 21}));
+  EXPECT_EQ(stuck->num_logged_errors(), 2);
+  EXPECT_EQ(other->num_logged_errors(), 0);
+
+  // With the flag set the later error runs, and only the failing one stays.
+  fix_calls().clear();
+  igsFixer again;
+  again.fix(log(), 1);
+  EXPECT_EQ(fix_calls(), (std::vector<int>{11, 12}));
+  EXPECT_EQ(stuck->num_logged_errors(), 1);
+}
+
+TEST_F(FixerTest, WithFlagZeroAFailedStructureRepairEndsItsSectionButNotTheOthers) {
+  fixerNode* entity = node();
+  int de = entity->de_number();
+  entity->raise<fixerStructureRepair>(de, 1, 0);
+  entity->raise<fixerStructureRepair>(de, 2, 1);
+  entity->raise<fixerObjectRepair>(3, 1);
+  new fixerGlobalRepair(4, 0);
+  new fixerGlobalRepair(5, 1);
+  new fixerStartRepair(6, 1);
+  new fixerTerminateRepair(7, 1);
+  fixer.fix(log(), 0);
+  EXPECT_EQ(fix_calls(), (std::vector<int>{1, 3, 4, 6, 7}));
+  EXPECT_EQ(structure_log().num_errors(), 2);
+  EXPECT_EQ(object_log().num_errors(), 0);
+  EXPECT_EQ(log().get_section_log(igsGlobalLog).num_errors(), 2);
+  EXPECT_EQ(log().get_section_log(igsStartLog).num_errors(), 0);
+  EXPECT_EQ(log().get_section_log(igsTerminateLog).num_errors(), 0);
+  EXPECT_EQ(entity->num_logged_errors(), 2);
+
+  // With the flag set every section is walked to its end; what failed before is run again.
+  fix_calls().clear();
+  igsFixer().fix(log(), 1);
+  EXPECT_EQ(fix_calls(), (std::vector<int>{1, 2, 4, 5}));
+  EXPECT_EQ(structure_log().num_errors(), 1);
+  EXPECT_EQ(log().get_section_log(igsGlobalLog).num_errors(), 1);
+}
+
+TEST_F(FixerTest, ACycleReachedFromARootIsCutWhereItClosesAndRun) {
+  // root -> a -> b -> a.
+  fixerNode* a = node();
+  fixerNode* b = node();
+  fixerNode* root = parent_of(a);
+  a->add_child(b);
+  a->raise_bad_child(0);
+  b->add_child(a);
+  b->raise_bad_child(0);
+  fixer.fix(log(), 1);
+  EXPECT_EQ(distance(fixer, root), 1);
+  EXPECT_EQ(distance(fixer, a), 2);
+  EXPECT_EQ(distance(fixer, b), 3);
+  EXPECT_EQ(fix_calls(), (std::vector<int>{b->de_number(), a->de_number(), root->de_number()}));
+  EXPECT_EQ(object_log().num_errors(), 0);
+}
+
+TEST_F(FixerTest, ACycleWithoutARootIsLeftUnrun) {
+  fixerNode* a = node();
+  fixerNode* b = node();
+  a->add_child(b);
+  a->raise_bad_child(0);
+  b->add_child(a);
+  b->raise_bad_child(0);
+  fixerNode* lone = node();
+  lone->raise_own(1);
+  fixer.fix(log(), 1);
+  EXPECT_EQ(distance(fixer, a), 0);
+  EXPECT_EQ(distance(fixer, b), 0);
+  EXPECT_EQ(fix_calls(), std::vector<int>{lone->de_number()});
+  EXPECT_EQ(a->num_logged_errors(), 1);
+  EXPECT_EQ(b->num_logged_errors(), 1);
+  EXPECT_EQ(target(a->child(0)), b);
+}
+
+TEST_F(FixerTest, ANodeOfDENumberZeroStandsInForAChildThatHasGone) {
+  fixerNode* parent = node();
+  parent->add_child(igsObjectPtr());
+  parent->raise_bad_child(0);
+  fixer.fix(log(), 1);
+  igsFixNode const* stand_in = fixer.find_node(0);
+  ASSERT_NE(stand_in, nullptr);
+  EXPECT_TRUE(stand_in->is_used());
+  EXPECT_EQ(stand_in->num_children(), 0);
+  EXPECT_EQ(stand_in->distance(), 2);
+  EXPECT_EQ(distance(fixer, parent), 1);
+  EXPECT_EQ(fixer.find_node(parent->de_number())->num_children(), 1);
+  EXPECT_EQ(fix_calls(), std::vector<int>{parent->de_number()});
+  EXPECT_EQ(object_log().num_errors(), 0);
+}
+
+TEST_F(FixerTest, ARepairThatDeletesItsEntityLeavesTheEntitysLaterErrorsHarmless) {
+  fixerNode* child = node();
+  fixerNode* parent = parent_of(child);
+  int de = parent->de_number();
+  child->raise<fixerDeleteEntity>(1); // the child's repair deletes it
+  parent->raise<fixerDeleteEntity>(2);
+  parent->raise_own(1);
+  fixer.fix(log(), 0);
+  // The parent's later errors resolve their key to nothing and do nothing.
+  EXPECT_EQ(fix_calls(), (std::vector<int>{1, de, 2, de}));
+  EXPECT_FALSE(igsObjectPtr(de));
+  EXPECT_EQ(file->num_entities(), 0);
+  // Errors outlive their entity; all of these were marked as fixed.
+  EXPECT_EQ(object_log().num_errors(), 0);
+}
+
+} // namespace
