@@ -104,9 +104,12 @@ void igsDirectoryFields::write(igsOutStream& out) const {
     }
     case Kind::reserved:
       break;
-    case Kind::label:
-      out.write_string(label_field_width, this->*c.text);
+    case Kind::label: {
+      // An empty text would take no columns at all; a blank takes the field's.
+      utString const& label = this->*c.text;
+      out.write_string(label_field_width, label.length() > 0 ? label : utString(" "));
       break;
+    }
     }
   }
 }
