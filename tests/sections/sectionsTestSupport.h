@@ -51,10 +51,13 @@ struct ClockOverride {
 // An error as "name(argument,...)": numbers as they print, characters and texts quoted.
 class ErrorText : public igsErrorArgumentVisitor {
  public:
+  // Errors about one numbered thing end in "@" and their key.
   explicit ErrorText(igsError const& e) : m_text(e.objtype().name()) {
     m_text += "(";
     e.visit_arguments(*this);
     m_text += ")";
+    if (e.typeof(igsIndexedError::type()))
+      m_text += "@" + std::to_string(static_cast<igsIndexedError const&>(e).key());
   }
   std::string const& text() const { return m_text; }
 
