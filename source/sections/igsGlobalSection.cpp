@@ -364,7 +364,8 @@ struct igsGlobalSection::ReadState {
 };
 
 // The delimiter is not known yet, so it is read by fixed-width reads: "1H" and the character,
-// which must then stand again as the delimiter behind the Hollerith string.
+// which must then stand again as the delimiter behind the Hollerith string; or the comma of a
+// parameter left out.
 int igsGlobalSection::read_parameter_delimiter(igsInStream& in, utOstream&) {
   char delimiter = ',';
   utString first;
@@ -375,7 +376,8 @@ int igsGlobalSection::read_parameter_delimiter(igsInStream& in, utOstream&) {
     if (rest.length() != 3 || rest[0] != 'H' || rest[1] != rest[2]) return 0;
     delimiter = rest[1];
   } else if (first.length() == 1 && first[0] != ',') {
-    delimiter = first[0];
+    raise<igsGlobalSectionInvalidParamDelim>(first[0]);
+    return 0;
   }
   if (!valid_delimiter(delimiter)) {
     raise<igsGlobalSectionInvalidParamDelim>(delimiter);
