@@ -5,6 +5,7 @@
 #include "input/igsInStream.h"
 #include "output/igsOutStream.h"
 #include "sections/igsGlobalSectionErrors.h"
+#include "sections/igsStreamSection.h"
 #include "support/coResource.h"
 #include "support/utOstream.h"
 
@@ -185,14 +186,6 @@ namespace {
 
 // The first version that has a modification date.
 constexpr int first_version_with_modification_date = 8;
-
-igsFileSection section_of(igsInStream& in) {
-  igsFileSection section;
-  int line;
-  int column;
-  in.position(section, line, column);
-  return section;
-}
 
 utString one_character(char c) {
   return utString(&c, 1);
@@ -486,7 +479,7 @@ void igsGlobalSection::read_modification_date(ReadState& state) {
 int igsGlobalSection::read(igsInStream& in, utOstream& messages, int& bad_line_numbers,
                            int& blank_lines) {
   // Without G lines there are no delimiters to read the rest of the file with.
-  if (section_of(in) != igsSectionGlobal) return 0;
+  if (igs_stream_section(in) != igsSectionGlobal) return 0;
   ReadState state{in, bad_line_numbers, blank_lines};
   for (Parameter const& p : parameters) {
     switch (p.number) {
@@ -514,7 +507,7 @@ int igsGlobalSection::read(igsInStream& in, utOstream& messages, int& bad_line_n
   }
   // Whatever stands behind the record delimiter in the section is passed over.
   if (in.reset())
-    while (section_of(in) == igsSectionGlobal && !in.frozen()) {
+    while (igs_stream_section(in) == igsSectionGlobal && !in.frozen()) {
       in.skip_line();
       if (in.error_type(igsIOBlankLine)) blank_lines = 1;
     }

@@ -4,6 +4,7 @@
 #include "input/igsInStream.h"
 #include "output/igsOutStream.h"
 #include "sections/igsStartTerminateErrors.h"
+#include "sections/igsStreamSection.h"
 #include "support/utOstream.h"
 
 #include <new>
@@ -34,13 +35,8 @@ int igsStartSection::set_line(int index, utString const& text) {
 int igsStartSection::read(igsInStream& in, int& blank_lines) {
   int count = 0;
   int out_of_sequence = 0;
-  for (;;) {
-    igsFileSection section;
-    int line_number;
-    int column;
-    in.position(section, line_number, column);
-    // The stream stops at the first line of another section, and for good at a fatal fault.
-    if (section != igsSectionStart || in.frozen()) break;
+  // The stream stops at the first line of another section, and for good at a fatal fault.
+  while (igs_stream_section(in) == igsSectionStart && !in.frozen()) {
     utString text;
     in.read_string(line_width, text);
     if (in.error_type(igsIOStartLineSequence)) out_of_sequence = 1;

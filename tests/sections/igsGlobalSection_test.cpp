@@ -31,13 +31,7 @@ class GlobalSectionTest : public SectionTest {
     return global.read(input->stream, messages_out, bad_line_numbers, blank_lines);
   }
   int read(std::string const& data) { return read(g_lines(data)); }
-  igsFileSection section_now() {
-    igsFileSection section;
-    int line;
-    int column;
-    input->stream.position(section, line, column);
-    return section;
-  }
+  igsFileSection section_now() { return igs_stream_section(input->stream); }
   Lines written() {
     return igs_output_test::written([&](igsOutStream& out) {
       std::ostringstream ignored;

@@ -25,14 +25,6 @@ Lines lines_of(igsStartSection const& section) {
   return lines;
 }
 
-igsFileSection section_of(igsInStream& in) {
-  igsFileSection section;
-  int line;
-  int column;
-  in.position(section, line, column);
-  return section;
-}
-
 Lines const global_line = {record('G', 1, "1H,,1H;;")};
 
 TEST_F(StartSectionTest, ReadKeepsAllColumnsOfEveryLine) {
@@ -46,7 +38,7 @@ TEST_F(StartSectionTest, ReadKeepsAllColumnsOfEveryLine) {
   EXPECT_EQ(blank_lines, 0);
   EXPECT_TRUE(describe(igsStartLog).empty());
   // The stream stands readable at the first G line.
-  EXPECT_EQ(section_of(input.stream), igsSectionGlobal);
+  EXPECT_EQ(igs_stream_section(input.stream), igsSectionGlobal);
   EXPECT_FALSE(input.stream.frozen());
   utString first;
   input.stream.read_string(4, first);
@@ -69,7 +61,7 @@ TEST_F(StartSectionTest, LinesOutOfSequenceAreKeptAndMakeOneError) {
   EXPECT_EQ(describe(igsStartLog), Lines{"igsStartSectionInvalid()"});
   EXPECT_EQ(fix_all(igsStartLog), std::vector<int>{1});
   EXPECT_EQ(messages.text(), "Warning : The start section of this file cannot be read.\n");
-  EXPECT_EQ(section_of(input.stream), igsSectionGlobal);
+  EXPECT_EQ(igs_stream_section(input.stream), igsSectionGlobal);
 
   // A first line numbered other than 1 is out of sequence too.
   InputOver late({record('S', 4, "late"), global_line[0]});
@@ -87,7 +79,7 @@ TEST_F(StartSectionTest, WithoutStartLinesTheEmptyLineStays) {
   igsStartSection start;
   EXPECT_EQ(start.read(input.stream), 1);
   EXPECT_EQ(lines_of(start), Lines{""});
-  EXPECT_EQ(section_of(input.stream), igsSectionGlobal);
+  EXPECT_EQ(igs_stream_section(input.stream), igsSectionGlobal);
 
   // A file that ends inside the Start section stops the reading, and the lines stay.
   InputOver cut({record('S', 1, "only")});
@@ -150,7 +142,7 @@ void move_to_terminate(igsInStream& in) {
   for (int guard = 0; guard < 100; ++guard) {
     if (in.frozen()) {
       if (!in.reset()) return;
-    } else if (section_of(in) == igsSectionTerminate) {
+    } else if (igs_stream_section(in) == igsSectionTerminate) {
       return;
     } else {
       in.skip_line();

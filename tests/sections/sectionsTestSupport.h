@@ -14,6 +14,7 @@
 #include "sections/igsDirectoryEntry.h"
 #include "sections/igsGlobalSection.h"
 #include "sections/igsStartSection.h"
+#include "sections/igsStreamSection.h"
 #include "sections/igsTerminateSection.h"
 #include "support/utOstream.h"
 
