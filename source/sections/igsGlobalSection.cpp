@@ -400,15 +400,22 @@ int igsGlobalSection::read_record_delimiter(igsInStream& in, utOstream&) {
 }
 
 int igsGlobalSection::read_units(igsInStream& in, utOstream&) {
+  int bad_line_numbers = 0;
+  int blank_lines = 0;
+  ReadState state{in, bad_line_numbers, blank_lines};
+  return read_units(state);
+}
+
+int igsGlobalSection::read_units(ReadState& state) {
   int flag = 0;
-  in.read_integer(flag);
-  if (!in.error_type(igsIOValuePresent)) {
+  state.in.read_integer(flag);
+  if (!state.took()) {
     raise<igsGlobalSectionIllegalDefault>(igsGPUnitsFlag, igsGPTypeInteger);
     flag = igs_unset_int;
   }
   utString name;
-  in.read_holerith(name);
-  if (in.error_type(igsIOValuePresent) && !name.is_null())
+  state.in.read_holerith(name);
+  if (state.took() && !name.is_null())
     m_units = igsUnits(name, flag);
   else
     m_units = igsUnits(flag);
@@ -492,8 +499,7 @@ int igsGlobalSection::read(igsInStream& in, utOstream& messages, int& bad_line_n
       state.took();
       break;
     case igsGPUnitsFlag:
-      read_units(in, messages);
-      state.took();
+      read_units(state);
       break;
     case igsGPUnitsName:
       break;

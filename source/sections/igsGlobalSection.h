@@ -166,6 +166,7 @@ class igsGlobalSection {
 
   template <class E, class... A> void raise(A&&... arguments) const;
   void read_parameter(Parameter const& p, ReadState& state);
+  int read_units(ReadState& state);
   void read_modification_date(ReadState& state);
 
   char m_parameter_delimiter = ',';

@@ -294,6 +294,15 @@ TEST_F(GlobalSectionTest, LinesOutOfSequenceBlankLinesAndDataAfterTheRecordEnd) 
   input->stream.read_string(8, type);
   EXPECT_EQ(type, "     116");
 
+  // A line out of sequence met by the read of the units flag, the first of a pair.
+  bad_line_numbers = 0;
+  EXPECT_EQ(read(Lines{record('G', 1, "1H,,1H;," + std::string(11, ',')), record('G', 3, "2,2HMM;"),
+                       lines.back()}),
+            1);
+  EXPECT_EQ(global.units().type(), igsUnitMillimeter);
+  EXPECT_EQ(global.units().name(), "MM");
+  EXPECT_EQ(bad_line_numbers, 1);
+
   // Without G lines there is nothing to take the delimiters from.
   auto own = std::make_unique<PackableFile>();
   igsGlobalSection none(own.get());
