@@ -127,6 +127,16 @@ void igsFile::compress() {
   m_free_slots.clear();
 }
 
+void igsFile::set_start_section(igsStartSection const& section) {
+  m_start_section.become(section);
+  m_start_section.set_file(this);
+}
+
+void igsFile::set_global_section(igsGlobalSection const& section) {
+  m_global_section.become(section);
+  m_global_section.set_file(this);
+}
+
 void igsFile::tag_error(igsError* error) const {
   if (error && m_message_stream) error->set_message_stream(m_message_stream);
 }
@@ -137,11 +147,13 @@ void igsFile::print(utOstream& out) const {
   utOstream level2(utOstreamTabTag, level1, 1, 0);
   out << "IgesFile = {\n";
   level1 << "Pathname = \"" << m_pathname << "\"\n";
+  level1 << m_start_section << m_global_section;
   level1 << "NoOfEntities = " << m_table.size() << "\n";
   level1 << "Entities = {\n";
   for (int location = 0; location < m_table.size(); ++location)
     if (igsObject* object = object_at(location)) object->print(level2);
   level1 << "}\n";
+  level1 << m_terminate_section;
   out << "}\n";
   igsObjectSystem::reentrant_end();
 }

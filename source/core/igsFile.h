@@ -3,6 +3,9 @@
 #pragma once
 
 #include "core/igsObjectManager.h"
+#include "sections/igsGlobalSection.h"
+#include "sections/igsStartSection.h"
+#include "sections/igsTerminateSection.h"
 #include "support/kvnabs.h"
 #include "support/kvuTypeInfo.h"
 #include "support/utOstream.h"
@@ -42,6 +45,13 @@ class igsFile {
   int num_unknowns() const { return m_num_unknowns; }
   // 1 unless reading failed before or in the Directory section.
   int parameter_data_read() const { return m_parameter_data_read; }
+
+  igsStartSection const& start_section() const { return m_start_section; }
+  igsGlobalSection const& global_section() const { return m_global_section; }
+  igsTerminateSection const& terminate_section() const { return m_terminate_section; }
+  // Copy the section's contents; the copy stays this file's.
+  void set_start_section(igsStartSection const& section);
+  void set_global_section(igsGlobalSection const& section);
 
   kvnabsOutput* message_stream() const { return m_message_stream; }
   void set_message_stream(kvnabsOutput* stream) { m_message_stream = stream; }
@@ -88,6 +98,9 @@ class igsFile {
   template <class Accept> int next_entity(int& index, Accept accept) const;
 
   utString m_pathname;
+  igsStartSection m_start_section{this};
+  igsGlobalSection m_global_section{this};
+  igsTerminateSection m_terminate_section{this};
   igsObjectManagerPtrcoPageArr m_table;
   intcoStack m_free_slots;
   intigsObjectManagerPtrcoTable m_forward_references;

@@ -1,7 +1,7 @@
 #include "core/igsObject.h"
 
-#include "core/igsInfoDB.h"
 #include "core/igsFile.h"
+#include "core/igsInfoDB.h"
 #include "core/igsObjectSystem.h"
 #include "errors/igsErrorLog.h"
 #include "sections/igsDirectoryEntry.h"
@@ -49,6 +49,7 @@ void igsObject::print(utOstream& out) const {
       << ") = {\n";
   if (!m_manager->visited()) {
     m_manager->set_visited(1);
+    directory_entry().print(nested);
     print_pd_data(nested);
   }
   out << "}\n";

@@ -1,5 +1,151 @@
 #include "sections/igsDirectoryEntry.h"
 
+#include "core/igsInfoDB.h"
+#include "core/igsObject.h"
+#include "input/igsInStream.h"
+#include "output/igsOutStream.h"
+#include "sections/igsEntityKind.h"
+#include "support/utOstream.h"
+
+// The two D lines
+
+namespace {
+
+using Fields = igsDirectoryFields;
+
+enum class Kind {
+  number,   // right-justified integer
+  status,   // two columns; written as "0" and the digit
+  reserved, // read and dropped; written blank as part of the label field
+  label     // read from its own columns; written right-justified over the reserved ones
+};
+
+struct Column {
+  Kind kind;
+  int width;
+  int Fields::*number;
+  utString Fields::*text;
+};
+
+constexpr Column number(int width, int Fields::*field) {
+  return {Kind::number, width, field, nullptr};
+}
+constexpr Column status(int Fields::*field) {
+  return {Kind::status, 2, field, nullptr};
+}
+constexpr Column text(Kind kind, int width, utString Fields::*field) {
+  return {kind, width, nullptr, field};
+}
+
+// The columns of the two lines in order, 72 on each.
+constexpr Column layout[] = {
+    number(8, &Fields::entity_type),
+    number(8, &Fields::parameter_data),
+    number(8, &Fields::structure),
+    number(8, &Fields::line_font),
+    number(8, &Fields::level),
+    number(8, &Fields::view),
+    number(8, &Fields::matrix),
+    number(8, &Fields::label_display),
+    status(&Fields::blank_status),
+    status(&Fields::subordinate_status),
+    status(&Fields::entity_use),
+    status(&Fields::hierarchy),
+    number(8, &Fields::second_entity_type),
+    number(8, &Fields::line_weight_number),
+    number(8, &Fields::colour),
+    number(8, &Fields::parameter_line_count),
+    number(8, &Fields::form_number),
+    text(Kind::reserved, 16, &Fields::reserved),
+    text(Kind::label, 8, &Fields::entity_label),
+    number(8, &Fields::entity_subscript),
+};
+
+constexpr bool lines_are_full() {
+  int columns = 0;
+  for (Column const& column : layout) columns += column.width;
+  return columns == 2 * 72;
+}
+static_assert(lines_are_full(), "the D line layout fills two lines of 72 columns");
+
+constexpr int label_field_width = 24; // the reserved columns and the label
+
+} // namespace
+
+int igsDirectoryFields::read(igsInStream& in) {
+  igsFileSection section;
+  int column;
+  in.position(section, line, column);
+  for (Column const& c : layout) {
+    if (c.number)
+      in.read_integer(static_cast<unsigned>(c.width), this->*c.number);
+    else
+      in.read_string(static_cast<unsigned>(c.width), this->*c.text);
+  }
+  in.errors();
+  return !in.fatal_error();
+}
+
+void igsDirectoryFields::write(igsOutStream& out) const {
+  for (Column const& c : layout) {
+    switch (c.kind) {
+    case Kind::number:
+      out.write_integer(c.width, this->*c.number);
+      break;
+    case Kind::status: {
+      int value = this->*c.number;
+      if (value >= 0 && value <= 9) {
+        out.write_integer(1, 0);
+        out.write_integer(1, value);
+      } else {
+        out.write_integer(c.width, value);
+      }
+      break;
+    }
+    case Kind::reserved:
+      break;
+    case Kind::label: {
+      // An empty text would take no columns at all; a blank takes the field's.
+      utString const& label = this->*c.text;
+      out.write_string(label_field_width, label.length() > 0 ? label : utString(" "));
+      break;
+    }
+    }
+  }
+}
+
+// The Directory Entry
+
+int igsDirectoryEntry::set_colour(igsColour const& colour) {
+  if (!colour.valid()) return 0;
+  m_colour.become(colour);
+  return 1;
+}
+
+int igsDirectoryEntry::set_level(igsLevel const& level) {
+  if (!level.valid()) return 0;
+  m_level.become(level);
+  return 1;
+}
+
+int igsDirectoryEntry::set_line_font(igsLineFont const& line_font) {
+  if (!line_font.valid()) return 0;
+  m_line_font.become(line_font);
+  return 1;
+}
+
+int igsDirectoryEntry::set_status_flags(igsStatusFlags const& flags) {
+  if (!flags.valid()) return 0;
+  m_status_flags.become(flags);
+  return 1;
+}
+
+int igsDirectoryEntry::set_matrix(igsObjectPtr const& matrix) {
+  if (matrix && !igs_isa_class(matrix, igs124_class)) return 0;
+  m_matrix = matrix;
+  return 1;
+}
+
 int igsDirectoryEntry::set_view(igsObjectPtr const& view) {
   if (!view) return 0;
   m_view = view;
@@ -24,8 +170,127 @@ int igsDirectoryEntry::set_line_weight_number(int number) {
   return 1;
 }
 
+int igsDirectoryEntry::set_form_number(int form) {
+  if (!igsInfoDB::form_exists(m_entity_type, form)) return 0;
+  m_form_number = form;
+  return 1;
+}
+
+void igsDirectoryEntry::become(igsDirectoryEntry const& other) {
+  if (this == &other) return;
+  m_structure = other.m_structure;
+  m_line_font.become(other.m_line_font);
+  m_level.become(other.m_level);
+  m_view = other.m_view;
+  m_matrix = other.m_matrix;
+  m_label_display = other.m_label_display;
+  m_status_flags = other.m_status_flags;
+  m_line_weight_number = other.m_line_weight_number;
+  m_colour.become(other.m_colour);
+  m_form_number = other.m_form_number;
+  m_entity_label = other.m_entity_label;
+  m_entity_subscript = other.m_entity_subscript;
+  m_parameter_line_count = other.m_parameter_line_count;
+  m_start_of_parameter_data = other.m_start_of_parameter_data;
+}
+
+void igsDirectoryEntry::set_fields(igsDirectoryFields const& f) {
+  m_start_of_parameter_data = f.parameter_data;
+  m_structure = f.structure;
+  m_line_font = igsLineFont(f.line_font);
+  m_level = igsLevel(f.level);
+  m_view = igsObjectPtr(f.view);
+  m_matrix = igsObjectPtr(f.matrix);
+  m_label_display = igsObjectPtr(f.label_display);
+  m_status_flags = igsStatusFlags(f.blank_status, f.subordinate_status, f.entity_use, f.hierarchy);
+  m_line_weight_number = f.line_weight_number;
+  m_colour = igsColour(f.colour);
+  m_parameter_line_count = f.parameter_line_count;
+  m_form_number = f.form_number;
+  m_entity_label = f.entity_label.is_null() ? utString("") : f.entity_label;
+  m_entity_subscript = f.entity_subscript;
+}
+
+namespace {
+
+int de_number_of(igsObjectPtr const& target) {
+  return target ? target->de_number() : 0;
+}
+
+} // namespace
+
+igsDirectoryFields igsDirectoryEntry::fields() const {
+  igsDirectoryFields f;
+  f.entity_type = f.second_entity_type = m_entity_type;
+  f.parameter_data = m_start_of_parameter_data;
+  f.structure = m_structure;
+  f.line_font = m_line_font.field();
+  f.level = m_level.field();
+  f.view = de_number_of(m_view);
+  f.matrix = de_number_of(m_matrix);
+  f.label_display = de_number_of(m_label_display);
+  f.blank_status = m_status_flags.blank_status_value();
+  f.subordinate_status = m_status_flags.subordinate_status_value();
+  f.entity_use = m_status_flags.entity_use_value();
+  f.hierarchy = m_status_flags.hierarchy_value();
+  f.line_weight_number = m_line_weight_number;
+  f.colour = m_colour.field();
+  f.parameter_line_count = m_parameter_line_count;
+  f.form_number = m_form_number;
+  f.reserved = utString("");
+  f.entity_label = m_entity_label;
+  f.entity_subscript = m_entity_subscript;
+  return f;
+}
+
+igsEntityType igsDirectoryEntry::get_entity_type(int type) {
+  return igsInfoDB::entity_exists(type) ? static_cast<igsEntityType>(type) : igsEntityTypeUnknown;
+}
+
 void igsDirectoryEntry::unreference_children() {
   m_view.unreference();
   m_matrix.unreference();
   m_label_display.unreference();
+  m_colour.unreference_children();
+  m_line_font.unreference_children();
+  m_level.unreference_children();
+}
+
+void igsDirectoryEntry::print(utOstream& out) const {
+  utOstream level1(utOstreamTabTag, out, 1, 0);
+  utOstream level2(utOstreamTabTag, level1, 1, 0);
+  int type = m_entity_type;
+  out << "DirectoryEntry = {\n";
+  level1 << "EntityTypeNumber = " << type << "("
+         << (igsInfoDB::entity_exists(type) ? igsInfoDB::entity_name(type).c_str()
+                                            : "UnknownEntity")
+         << ")\n";
+  level1 << "Structure = " << m_structure << "\n";
+  level1 << "LineFontPattern = " << m_line_font << "\n";
+  level1 << "Level = " << m_level << "\n";
+  level1 << (m_view ? "View = Unsupported\n" : "View = AllViews\n");
+  if (m_matrix) {
+    level1 << "TransformationMatrix = {\n";
+    m_matrix->print(level2);
+    level1 << "}\n";
+  } else {
+    level1 << "TransformationMatrix = IdentityMatrix\n";
+  }
+  level1 << "LabelDisplayAssociativity = Unsupported\n";
+  level1 << m_status_flags << "\n";
+  level1 << "LineWeightNumber = " << m_line_weight_number << "\n";
+  level1 << "Colour = " << m_colour << "\n";
+  level1 << "FormNumber = " << m_form_number << "("
+         << (igsInfoDB::form_exists(type, m_form_number)
+                 ? igsInfoDB::form_name(type, m_form_number).c_str()
+                 : "UnknownForm")
+         << ")\n";
+  level1 << "EntityLabel = \"" << m_entity_label << "\"\n";
+  level1 << "EntitySubscript = " << m_entity_subscript << "\n";
+  out << "}\n";
+}
+
+utOstream& operator<<(utOstream& out, igsDirectoryEntry const& de) {
+  de.print(out);
+  return out;
 }

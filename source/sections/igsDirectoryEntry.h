@@ -1,13 +1,57 @@
 // The attributes of one entity: the two D lines of an IGES file in decoded form. Every entity
 // has exactly one, made by its file together with the entity's manager.
-//
-// Line font, level and colour are kept as the plain numbers of the D line for now: their
-// value classes (a number or a reference to a definition entity) replace them behind the
-// same getters.
 #pragma once
 
 #include "core/igsEntityType.h"
 #include "core/igsObjectPtr.h"
+#include "sections/igsColour.h"
+#include "sections/igsLevel.h"
+#include "sections/igsLineFont.h"
+#include "sections/igsStatusFlags.h"
+
+class igsInStream;
+class igsOutStream;
+class utOstream;
+
+// The 20 fields of the two D lines of one entity, as a file holds them. The file reader reads
+// them, tests the two type numbers and the form, makes the entity and hands the fields to
+// its Directory Entry; the writer takes them from the Directory Entry and writes them.
+struct igsDirectoryFields {
+  int line = 0; // the sequence number of the first D line
+  // Line 1.
+  int entity_type = 0;
+  int parameter_data = 0;
+  int structure = 0;
+  int line_font = 0;
+  int level = 0;
+  int view = 0;
+  int matrix = 0;
+  int label_display = 0;
+  int blank_status = 0;
+  int subordinate_status = 0;
+  int entity_use = 0;
+  int hierarchy = 0;
+  // Line 2.
+  int second_entity_type = 0;
+  int line_weight_number = 0;
+  int colour = 0;
+  int parameter_line_count = 0;
+  int form_number = 0;
+  utString reserved; // columns 41 to 56, read and dropped
+  utString entity_label;
+  int entity_subscript = 0;
+
+  // Reads the two lines with fixed-width reads from where the stream stands; blank number
+  // fields read as 0 and the texts keep their columns as they stand. The codes of the reads
+  // stay collected in the stream for the caller to ask. Returns 0 if the stream has a fatal
+  // error afterwards.
+  int read(igsInStream& in);
+  // Writes the two lines, right-justified: each status value as "0" and its digit, and the
+  // reserved columns and the label as one text field of 24 columns.
+  void write(igsOutStream& out) const;
+
+  bool operator==(igsDirectoryFields const& other) const = default;
+};
 
 class igsDirectoryEntry {
  public:
@@ -16,13 +60,14 @@ class igsDirectoryEntry {
   igsDirectoryEntry& operator=(igsDirectoryEntry const&) = delete;
 
   int structure() const { return m_structure; }
-  int line_font() const { return m_line_font; }
-  int level() const { return m_level; }
+  igsLineFont const& line_font() const { return m_line_font; }
+  igsLevel const& level() const { return m_level; }
   igsObjectPtr const& view() const { return m_view; }
   igsObjectPtr const& matrix() const { return m_matrix; }
   igsObjectPtr const& label_display() const { return m_label_display; }
+  igsStatusFlags const& status_flags() const { return m_status_flags; }
   int line_weight_number() const { return m_line_weight_number; }
-  int colour() const { return m_colour; }
+  igsColour const& colour() const { return m_colour; }
   int form_number() const { return m_form_number; }
   utString const& entity_label() const { return m_entity_label; }
   int entity_subscript() const { return m_entity_subscript; }
@@ -30,8 +75,14 @@ class igsDirectoryEntry {
   igsObjectManager* manager() const { return m_manager; }
 
   // Setters return 1 when they stored the value and 0 when they refused it.
-  void set_structure(int structure) { m_structure = structure; }
-  void set_label_display(igsObjectPtr const& label_display) { m_label_display = label_display; }
+  // Refuse what the attribute's `valid` refuses.
+  int set_colour(igsColour const& colour);
+  int set_level(igsLevel const& level);
+  int set_line_font(igsLineFont const& line_font);
+  int set_status_flags(igsStatusFlags const& flags);
+  // Refuses a reference to anything but a transformation matrix (124); a null reference
+  // removes the matrix.
+  int set_matrix(igsObjectPtr const& matrix);
   // Refuses a null reference; remove_view clears the view.
   int set_view(igsObjectPtr const& view);
   void remove_view() { m_view = igsObjectPtr(); }
@@ -40,16 +91,40 @@ class igsDirectoryEntry {
   // Refuse negative numbers.
   int set_entity_subscript(int subscript);
   int set_line_weight_number(int number);
+  // Refuses a form that the entity type does not have.
+  int set_form_number(int form);
+  void set_label_display(igsObjectPtr const& label_display) { m_label_display = label_display; }
+  void set_structure(int structure) { m_structure = structure; }
+
+  // Copies every field but the entity type and the manager.
+  void become(igsDirectoryEntry const& other);
+
+  // Stores what a file's D lines held, good or bad, in every field but the entity type, which
+  // the entity's class decides; references bind by DE number in the current file. A value
+  // that fails its test is kept for the check to find.
+  void set_fields(igsDirectoryFields const& fields);
+  // The fields to write: the entity type on both lines, the parameter data pointer and line
+  // count last stored, each attribute as its number or minus its definition's current DE
+  // number, and the DE number of each reference, 0 for none.
+  igsDirectoryFields fields() const;
+  void write(igsOutStream& out) const { fields().write(out); }
+
+  void print(utOstream& out) const;
 
  protected:
   int start_of_parameter_data() const { return m_start_of_parameter_data; }
   int parameter_line_count() const { return m_parameter_line_count; }
-  // Drops the references the DE holds, each with igsObjectPtr::unreference.
+  // The type if the tables know it, else igsEntityTypeUnknown.
+  static igsEntityType get_entity_type(int type);
+  // Drops the references the DE holds, each with igsObjectPtr::unreference: view, matrix and
+  // label display, then the definitions of colour, line font and level.
   void unreference_children();
 
  private:
   friend class igsFile;
   friend class igsObject;
+  // The repair of a wrong entity use stores the use alone, whatever the other digits hold.
+  friend class igsDEInvalidEntityUse;
   void set_manager(igsObjectManager* manager) { m_manager = manager; }
   void set_entity_type_and_form(igsEntityType type, int form) {
     m_entity_type = type;
@@ -59,18 +134,21 @@ class igsDirectoryEntry {
   void set_parameter_line_count(int count) { m_parameter_line_count = count; }
 
   int m_structure = 0;
-  int m_line_font = 1;
-  int m_level = 0;
+  igsLineFont m_line_font;
+  igsLevel m_level;
   igsObjectPtr m_view;
   igsObjectPtr m_matrix;
   igsObjectPtr m_label_display;
+  igsStatusFlags m_status_flags;
   int m_line_weight_number = 0;
-  int m_colour = 0;
+  igsColour m_colour;
   int m_form_number = 0;
-  utString m_entity_label;
+  utString m_entity_label{""};
   int m_entity_subscript = 0;
   igsEntityType m_entity_type = igsEntityTypeUnknown;
   int m_parameter_line_count = 0;
   int m_start_of_parameter_data = 0;
   igsObjectManager* m_manager = nullptr;
 };
+
+utOstream& operator<<(utOstream& out, igsDirectoryEntry const& de);

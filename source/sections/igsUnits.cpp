@@ -1,9 +1,11 @@
 #include "sections/igsUnits.h"
 
+#include "sections/igsGlobalSectionErrors.h"
 #include "support/kvuMacros.h"
 
 #include <cctype>
 #include <iterator>
+#include <new>
 #include <string_view>
 
 namespace {
@@ -71,4 +73,17 @@ double igsUnits::convert_between_units(igsUnitType from, igsUnitType to) {
   if (!from_row || !to_row) return 0.0;
   if (from == to) return 1.0;
   return from_row->millimetres_per_unit * to_row->units_per_millimetre;
+}
+
+igsGlobalError* igsUnits::check() const {
+  igsUnitType named = type(m_name);
+  utString name = named == igsUnitUnknown ? utString("UNKNOWN") : m_name;
+  if (m_type < igsUnitInch || m_type > igsUnitMicroinch)
+    return new (std::nothrow) igsGlobalSectionInvalidUnitsFlag(m_type);
+  if (m_type == igsUnitUserDefined)
+    return new (std::nothrow) igsGlobalSectionUserDefinedUnits(name);
+  if (named != m_type)
+    return new (std::nothrow)
+        igsGlobalSectionUnitNameTypeMismatch(static_cast<igsUnitType>(m_type), name);
+  return nullptr;
 }

@@ -1,7 +1,10 @@
 // The units flag and units name of the Global section, and conversions between units.
 #pragma once
 
+#include "sections/igsUnset.h"
 #include "support/utString.h"
+
+class igsGlobalError;
 
 // A units flag. Any int may be held; the named values are those a file may use.
 enum igsUnitType : int {
@@ -13,7 +16,7 @@ enum igsUnitType : int {
 class igsUnits {
  public:
   // The flag of units that were left out.
-  static constexpr int unset_flag = -2147483647; // 0x80000001, the unset int
+  static constexpr int unset_flag = igs_unset_int;
 
   // A flag alone has an empty name, as a Global section that leaves the name out reads.
   explicit igsUnits(int type = unset_flag) : m_type(type), m_name("") {}
@@ -44,6 +47,10 @@ class igsUnits {
   // The factor that turns a length in `from` units into one in `to` units: 1 for the same
   // units; else 0 where one of them is unknown (0) or out of range.
   static double convert_between_units(igsUnitType from, igsUnitType to);
+
+  // The first fault of the pair, as a new error in the current log that the caller tags;
+  // null when flag and name agree. A name that no flag stands for counts as "UNKNOWN".
+  igsGlobalError* check() const;
 
  private:
   int m_type = unset_flag;

@@ -187,6 +187,41 @@ TEST_F(FileTest, IteratorsStopAtTopLevelEntitiesOrAtOneExactClass) {
   EXPECT_EQ(it(), nullptr);
 }
 
+// What a new test node's Directory Entry prints, indented by `indent` blanks.
+std::string new_node_de(int indent) {
+  static char const* const lines[] = {"DirectoryEntry = {",
+                                      "  EntityTypeNumber = 9001(UnknownEntity)",
+                                      "  Structure = 0",
+                                      "  LineFontPattern = 1(Solid)",
+                                      "  Level = 0",
+                                      "  View = AllViews",
+                                      "  TransformationMatrix = IdentityMatrix",
+                                      "  LabelDisplayAssociativity = Unsupported",
+                                      "  BlankStatus = 0(Visible)",
+                                      "  SubordinateStatus = 0(Independent)",
+                                      "  EntityUse = 0(Geometry)",
+                                      "  Hierarchy = 0(Global top down)",
+                                      "  LineWeightNumber = 0",
+                                      "  Colour = 0(No color assigned)",
+                                      "  FormNumber = 0(UnknownForm)",
+                                      "  EntityLabel = \"\"",
+                                      "  EntitySubscript = 0",
+                                      "}"};
+  std::string text;
+  for (char const* line : lines)
+    text += std::string(static_cast<size_t>(indent), ' ') + line + "\n";
+  return text;
+}
+
+// A section as the file prints it, one level in.
+template <class Section> std::string at_level_1(Section const& section) {
+  std::ostringstream text;
+  utOstream out(text);
+  utOstream level1(utOstreamTabTag, out, 1, 0);
+  level1 << section;
+  return text.str();
+}
+
 TEST_F(FileTest, PrintShowsEachEntityOnceAndEndsOnCycles) {
   file->set_pathname("part.igs");
   auto* a = new testNode(1);
@@ -198,37 +233,42 @@ TEST_F(FileTest, PrintShowsEachEntityOnceAndEndsOnCycles) {
   b->add_child(igsObjectPtr(99));
   delete new testNode; // a hole: NoOfEntities counts slots
   EXPECT_EQ(printed(*file), "IgesFile = {\n"
-                            "  Pathname = \"part.igs\"\n"
-                            "  NoOfEntities = 4\n"
-                            "  Entities = {\n"
-                            "    @1(9001) = {\n"
-                            "      Value = 1\n"
-                            "      Child(0)= {\n"
-                            "        @5(9001) = {\n"
-                            "          Value = 3\n"
-                            "        }\n"
-                            "      }\n"
-                            "    }\n"
-                            "    @3(9001) = {\n"
-                            "      Value = 2\n"
-                            "      Child(0)= {\n"
-                            "        @5(9001) = {\n"
-                            "        }\n"
-                            "      }\n"
-                            "      Child(1)= {\n"
-                            "        @3(9001) = {\n"
-                            "        }\n"
-                            "      }\n"
-                            "      Child(2)= {\n"
-                            "        (NullPointer)\n"
-                            "      }\n"
-                            "    }\n"
-                            "    @5(9001) = {\n"
-                            "    }\n"
-                            "  }\n"
-                            "}\n");
+                            "  Pathname = \"part.igs\"\n" +
+                                at_level_1(file->start_section()) +
+                                at_level_1(file->global_section()) +
+                                "  NoOfEntities = 4\n"
+                                "  Entities = {\n"
+                                "    @1(9001) = {\n" +
+                                new_node_de(6) +
+                                "      Value = 1\n"
+                                "      Child(0)= {\n"
+                                "        @5(9001) = {\n" +
+                                new_node_de(10) +
+                                "          Value = 3\n"
+                                "        }\n"
+                                "      }\n"
+                                "    }\n"
+                                "    @3(9001) = {\n" +
+                                new_node_de(6) +
+                                "      Value = 2\n"
+                                "      Child(0)= {\n"
+                                "        @5(9001) = {\n"
+                                "        }\n"
+                                "      }\n"
+                                "      Child(1)= {\n"
+                                "        @3(9001) = {\n"
+                                "        }\n"
+                                "      }\n"
+                                "      Child(2)= {\n"
+                                "        (NullPointer)\n"
+                                "      }\n"
+                                "    }\n"
+                                "    @5(9001) = {\n"
+                                "    }\n"
+                                "  }\n" +
+                                at_level_1(file->terminate_section()) + "}\n");
   // A print of its own starts a new walk.
-  EXPECT_EQ(printed(*shared), "@5(9001) = {\n  Value = 3\n}\n");
+  EXPECT_EQ(printed(*shared), "@5(9001) = {\n" + new_node_de(2) + "  Value = 3\n}\n");
 }
 
 TEST_F(FileTest, CheckVisitsEachEntityOnceAndEndsOnCycles) {
@@ -276,7 +316,7 @@ TEST_F(FileTest, DirectoryEntrySettersRefuseWhatTheyCannotHold) {
   EXPECT_EQ(de.form_number(), 0);
   ASSERT_NE(de.manager(), nullptr);
   EXPECT_NE(de.manager(), b->directory_entry().manager());
-  EXPECT_EQ(de.line_font(), 1);
+  EXPECT_EQ(de.line_font().value(), 1);
   EXPECT_EQ(de.set_view(igsObjectPtr()), 0);
   EXPECT_EQ(de.set_view(b), 1);
   EXPECT_EQ(de.view()(), b);
