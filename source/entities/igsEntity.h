@@ -14,6 +14,8 @@
 #include "support/giGeometry.h"
 #include "support/utOstream.h"
 
+#include <type_traits>
+
 // Fields that have no value yet hold these; points and vectors are unset when
 // default-constructed (their `invalid` test), references when null.
 inline constexpr double igs_unset_double = gi_unset_double;        // the most negative double
@@ -24,6 +26,14 @@ inline int igs_unset(double value) {
 }
 inline int igs_unset(int value) {
   return value == igs_unset_int;
+}
+
+// The rule of the setters of geometry values: a valid value is stored and gives 1; an
+// invalid one leaves the field as it was and gives 0.
+template <class Value> int igs_set_valid(Value& field, Value const& value) {
+  if (value.invalid()) return 0;
+  field = value;
+  return 1;
 }
 
 // The most elements that a count read from a file reserves at once. A larger count (often a
@@ -51,19 +61,15 @@ inline void igs_read_field(igsInStream& in, giPoint2& point) {
   in.read_double(y);
   point = giPoint2(x, y);
 }
-inline void igs_read_field(igsInStream& in, giPoint3& point) {
+// Points and vectors in space: three coordinates.
+template <class Triple>
+requires std::is_same_v<Triple, giPoint3> || std::is_same_v<Triple, giVector3>
+void igs_read_field(igsInStream& in, Triple& value) {
   double x = 0.0, y = 0.0, z = 0.0;
   in.read_double(x);
   in.read_double(y);
   in.read_double(z);
-  point = giPoint3(x, y, z);
-}
-inline void igs_read_field(igsInStream& in, giVector3& vector) {
-  double x = 0.0, y = 0.0, z = 0.0;
-  in.read_double(x);
-  in.read_double(y);
-  in.read_double(z);
-  vector = giVector3(x, y, z);
+  value = Triple(x, y, z);
 }
 inline void igs_read_field(igsInStream& in, igsObjectPtr& reference) {
   int de_number = 0;
@@ -85,15 +91,12 @@ inline void igs_write_field(igsOutStream& out, giPoint2 const& point) {
   out.write_double(point.x());
   out.write_double(point.y());
 }
-inline void igs_write_field(igsOutStream& out, giPoint3 const& point) {
-  out.write_double(point.x());
-  out.write_double(point.y());
-  out.write_double(point.z());
-}
-inline void igs_write_field(igsOutStream& out, giVector3 const& vector) {
-  out.write_double(vector.x());
-  out.write_double(vector.y());
-  out.write_double(vector.z());
+template <class Triple>
+requires std::is_same_v<Triple, giPoint3> || std::is_same_v<Triple, giVector3>
+void igs_write_field(igsOutStream& out, Triple const& value) {
+  out.write_double(value.x());
+  out.write_double(value.y());
+  out.write_double(value.z());
 }
 inline void igs_write_field(igsOutStream& out, igsObjectPtr const& reference) {
   out.write_integer(reference ? reference->de_number() : 0);

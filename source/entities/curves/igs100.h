@@ -9,7 +9,7 @@ class igs100 : public igsTrimmedConic {
 
   giPoint2 const& centre() const { return m_centre; }
   // Stores a valid centre and returns 1; keeps the old one and returns 0 for an invalid one.
-  int set_centre(giPoint2 const& centre) { return store_valid(m_centre, centre); }
+  int set_centre(giPoint2 const& centre) { return igs_set_valid(m_centre, centre); }
 
  private:
   friend class igs100InconsistRad;

@@ -6,18 +6,6 @@
 
 IGS_ENTITY_DEFINE(igs110, igsCurve, 110, 0, IGS_DE_ALL)
 
-int igs110::set_start_point(giPoint3 const& point) {
-  if (point.invalid()) return 0;
-  m_start = point;
-  return 1;
-}
-
-int igs110::set_end_point(giPoint3 const& point) {
-  if (point.invalid()) return 0;
-  m_end = point;
-  return 1;
-}
-
 int igs110::read_pd_data(igsInStream& in) {
   giPoint3 start, end;
   igs_read_fields(in, start, end);

@@ -10,8 +10,8 @@ class igs110 : public igsCurve {
   giPoint3 start_point() const { return m_start; }
   giPoint3 end_point() const { return m_end; }
   // Store a valid point and return 1; keep the old one and return 0 for an invalid point.
-  int set_start_point(giPoint3 const& point);
-  int set_end_point(giPoint3 const& point);
+  int set_start_point(giPoint3 const& point) { return igs_set_valid(m_start, point); }
+  int set_end_point(giPoint3 const& point) { return igs_set_valid(m_end, point); }
   int coincident_end_points(double tolerance) const { return m_start.coincident(m_end, tolerance); }
 
  private:

@@ -15,8 +15,8 @@ class igsTrimmedConic : public igsCurve {
     end = m_end;
   }
   // Store a valid point and return 1; keep the old one and return 0 for an invalid point.
-  int set_start_point(giPoint2 const& point) { return store_valid(m_start, point); }
-  int set_end_point(giPoint2 const& point) { return store_valid(m_end, point); }
+  int set_start_point(giPoint2 const& point) { return igs_set_valid(m_start, point); }
+  int set_end_point(giPoint2 const& point) { return igs_set_valid(m_end, point); }
   // ZT, the common Z of the plane of definition.
   double z_level() const { return m_z_level; }
   void set_z_level(double z) { m_z_level = z; }
@@ -25,11 +25,6 @@ class igsTrimmedConic : public igsCurve {
   igsTrimmedConic() = default;
   // 1 when both ends are valid and the Z level is set.
   int valid_pd() const { return !m_start.invalid() && !m_end.invalid() && !igs_unset(m_z_level); }
-  static int store_valid(giPoint2& field, giPoint2 const& point) {
-    if (point.invalid()) return 0;
-    field = point;
-    return 1;
-  }
 
   // Read code stores what the file holds, good or bad.
   giPoint2 m_start;

@@ -24,6 +24,22 @@
   using InvalidZLevel = Prefix##InvalidZLevel;                                                     \
   using UnequalZLevels = Prefix##UnequalZLevels;
 
+// Declares a concrete class of the family: its enumeration of the flag (Class##XYCommonZ = 1,
+// Class##XYZ = 2, Class##XYZIJK = 3), its traits and the class itself.
+#define IGS_TUPLE_LIST_CLASS(Class, Base, offset)                                                  \
+  enum Class##Dim : int{Class##XYCommonZ = 1, Class##XYZ = 2, Class##XYZIJK = 3};                  \
+  class Class;                                                                                     \
+  struct Class##Traits {                                                                           \
+    using Entity = Class;                                                                          \
+    using Dim = Class##Dim;                                                                        \
+    static constexpr int form_offset = offset;                                                     \
+    IGS_TUPLE_LIST_ERROR_NAMES(Class)                                                              \
+  };                                                                                               \
+  extern template class igsTupleList<Base, Class##Traits>;                                         \
+  class Class : public igsTupleList<Base, Class##Traits> {                                         \
+    IGS_ENTITY_IDENTITY(Class)                                                                     \
+  };
+
 // The printing shared with the closed planar curve: the flag block with the count, and the
 // planar tuples with their common Z.
 void igs_print_tuple_flags(utOstream& out, char const* word, int count);
