@@ -71,7 +71,11 @@ class igsObject {
   // Stores type and form in the DE; every concrete constructor calls it last.
   void set_directory_entry_type(igsEntityType type, int form);
 
+  // A new entity of the class registered for the type and form, or an igsUnknown.
+  static igsObject* create(igsEntityType type, int form);
+
  private:
+  friend class igsFactory;
   friend class igsFile;
   friend class igsObjectPtr;
   igsObjectManager* manager() const { return m_manager; }

@@ -1,0 +1,3 @@
+#include "entities/curves/igsTrimmedConic.h"
+
+KVU_DEFINE_TYPE(igsTrimmedConic, igsCurve)

@@ -1,0 +1,137 @@
+// What every entity class uses beside the pattern macros of core/igsFactory.h: the unset
+// values, the reading, writing and printing of the usual kinds of field, and the way a repair
+// finds the entity its error names.
+#pragma once
+
+#include "core/igsFactory.h"
+#include "core/igsObject.h"
+#include "core/igsObjectPtr.h"
+#include "input/igsInStream.h"
+#include "output/igsOutStream.h"
+#include "sections/igsDECheck.h"
+#include "sections/igsDirectoryEntry.h"
+#include "support/coResource.h"
+#include "support/giGeometry.h"
+#include "support/utOstream.h"
+
+#include <type_traits>
+
+// Fields that have no value yet hold these; points and vectors are unset when
+// default-constructed (their `invalid` test), references when null.
+inline constexpr double igs_unset_double = gi_unset_double;        // the most negative double
+inline constexpr int igs_unset_int = static_cast<int>(0x80000001); // one above the smallest int
+
+inline int igs_unset(double value) {
+  return value == igs_unset_double;
+}
+inline int igs_unset(int value) {
+  return value == igs_unset_int;
+}
+
+// The rule of the setters of geometry values: a valid value is stored and gives 1; an
+// invalid one leaves the field as it was and gives 0.
+template <class Value> int igs_set_valid(Value& field, Value const& value) {
+  if (value.invalid()) return 0;
+  field = value;
+  return 1;
+}
+
+// The most elements that a count read from a file reserves at once. A larger count (often a
+// damaged one) reserves this much and lets the array grow while the data last, so a wild
+// number costs no wild allocation.
+inline constexpr int igs_max_initial_reserve = 1 << 16;
+
+// Reserves room for a count read from a file (not above igs_max_initial_reserve); 0 if the
+// allocation failed.
+template <class Array> int igs_reserve(Array& array, int count) {
+  return array.reserve(count < igs_max_initial_reserve ? count : igs_max_initial_reserve);
+}
+
+// One field each. The stream gives 0 for a defaulted field; a point or vector is made of its
+// coordinates in order; a reference is a DE number, bound at once.
+inline void igs_read_field(igsInStream& in, int& value) {
+  in.read_integer(value);
+}
+inline void igs_read_field(igsInStream& in, double& value) {
+  in.read_double(value);
+}
+inline void igs_read_field(igsInStream& in, giPoint2& point) {
+  double x = 0.0, y = 0.0;
+  in.read_double(x);
+  in.read_double(y);
+  point = giPoint2(x, y);
+}
+// Points and vectors in space: three coordinates.
+template <class Triple>
+requires std::is_same_v<Triple, giPoint3> || std::is_same_v<Triple, giVector3>
+void igs_read_field(igsInStream& in, Triple& value) {
+  double x = 0.0, y = 0.0, z = 0.0;
+  in.read_double(x);
+  in.read_double(y);
+  in.read_double(z);
+  value = Triple(x, y, z);
+}
+inline void igs_read_field(igsInStream& in, igsObjectPtr& reference) {
+  int de_number = 0;
+  in.read_integer(de_number);
+  reference = igsObjectPtr(de_number);
+}
+// Reads the fields in order.
+template <class... Field> void igs_read_fields(igsInStream& in, Field&... fields) {
+  (igs_read_field(in, fields), ...);
+}
+
+inline void igs_write_field(igsOutStream& out, int value) {
+  out.write_integer(value);
+}
+inline void igs_write_field(igsOutStream& out, double value) {
+  out.write_double(value);
+}
+inline void igs_write_field(igsOutStream& out, giPoint2 const& point) {
+  out.write_double(point.x());
+  out.write_double(point.y());
+}
+template <class Triple>
+requires std::is_same_v<Triple, giPoint3> || std::is_same_v<Triple, giVector3>
+void igs_write_field(igsOutStream& out, Triple const& value) {
+  out.write_double(value.x());
+  out.write_double(value.y());
+  out.write_double(value.z());
+}
+inline void igs_write_field(igsOutStream& out, igsObjectPtr const& reference) {
+  out.write_integer(reference ? reference->de_number() : 0);
+}
+// Writes the fields in order.
+template <class... Field> void igs_write_fields(igsOutStream& out, Field const&... fields) {
+  (igs_write_field(out, fields), ...);
+}
+
+// "Label = {", then on a nested stream the referenced entity or "(NullPointer)", then "}".
+void igs_print_reference(utOstream& out, char const* label, igsObjectPtr const& reference);
+
+// A heading such as "ControlPoints = {", then on a nested stream one line "(i) = " per member,
+// whose value `item(out, i)` prints, then "}".
+template <class Item>
+void igs_print_list(utOstream& out, char const* heading, int count, Item const& item) {
+  out << heading << "\n";
+  utOstream nested(utOstreamTabTag, out, 1, 0);
+  for (int i = 0; i < count; ++i) {
+    nested << "(" << i << ") = ";
+    item(nested, i);
+    nested << "\n";
+  }
+  out << "}\n";
+}
+template <class Array>
+void igs_print_values(utOstream& out, char const* heading, Array const& values) {
+  igs_print_list(out, heading, values.size(), [&](utOstream& o, int i) { o << values[i]; });
+}
+
+// The entity whose DE number an error holds as its key, if it is of class T (or derives from
+// it); null when the number names no entity of that kind any more. Repairs reach their entity
+// this way, by number, so that an error outlives the replacement of its entity.
+template <class T> T* igs_error_entity(int key) {
+  igsObjectPtr reference(key);
+  if (!reference || !reference->typeof(T::type())) return nullptr;
+  return static_cast<T*>(reference.operator->());
+}

@@ -1,0 +1,247 @@
+#include "core/igsFactory.h"
+
+#include "core/igsFile.h"
+#include "core/igsInfoDB.h"
+#include "core/igsNull.h"
+#include "core/igsObjectSystem.h"
+#include "core/igsUnknown.h"
+#include "input/igsInStream.h"
+#include "sections/igsDirectoryEntry.h"
+
+#include <gtest/gtest.h>
+
+#include <climits>
+#include <memory>
+#include <sstream>
+#include <string>
+#include <vector>
+
+// Classes of the tests' own stand outside the anonymous namespace: the entity pattern gives
+// them a prototype maker with external linkage.
+// A class, to register over form ranges of a type nobody uses.
+class testShape : public igsObject {
+  IGS_ENTITY_CLASS(testShape)
+};
+IGS_ENTITY_DEFINE(testShape, igsObject, 9100, 0, 0u)
+int testShape::read_pd_data(igsInStream&) {
+  return 1;
+}
+void testShape::write_pd_data(igsOutStream&) {}
+void testShape::print_pd_data(utOstream&) const {}
+void testShape::check_pd() const {}
+
+class testRound : public testShape {
+  KVU_DECLARE_TYPE()
+ protected:
+  igsObject* make_one() override { return new testRound; }
+};
+KVU_DEFINE_TYPE(testRound, testShape)
+
+namespace {
+
+// The rows of the registration table, planned ones included.
+struct Row {
+  int type;
+  int min_form;
+  int max_form;
+  std::string name;
+  bool active;
+};
+
+std::vector<Row> const& table() {
+  static std::vector<Row> const rows = {
+#define IGS_ENTITY(type, min_form, max_form, Class) {type, min_form, max_form, #Class, true},
+#define IGS_ENTITY_PLANNED(type, min_form, max_form, Class)                                        \
+  {type, min_form, max_form, #Class, false},
+#include "entities/igsEntityTable.def"
+  };
+  return rows;
+}
+
+// What the table says the factory makes for a type and form: the first active row that holds
+// the form, else igsUnknown.
+std::string expected_class(int type, int form) {
+  for (Row const& row : table())
+    if (row.type == type && row.min_form <= form && form <= row.max_form)
+      return row.active ? row.name : "igsUnknown";
+  return "igsUnknown";
+}
+
+// Makes an object through the factory; its class name, or "null" if none came.
+struct Made {
+  igsObject* object;
+  std::string name() const { return object ? object->objtype().name() : "null"; }
+};
+
+class FactoryTest : public ::testing::Test {
+ protected:
+  std::unique_ptr<igsFile> file = std::make_unique<igsFile>();
+  static Made make(int type, int form) {
+    return {igsFactory::make_one(static_cast<igsEntityType>(type), form)};
+  }
+};
+
+TEST_F(FactoryTest, TheTableHoldsEveryRegistrationOnceWithoutOverlaps) {
+  EXPECT_EQ(table().size(), 74u);
+  int active = 0;
+  for (size_t i = 0; i < table().size(); ++i) {
+    Row const& a = table()[i];
+    active += a.active;
+    EXPECT_LE(a.min_form, a.max_form) << a.name;
+    EXPECT_TRUE(igsInfoDB::entity_exists(a.type)) << a.name;
+    for (size_t j = i + 1; j < table().size(); ++j) {
+      Row const& b = table()[j];
+      EXPECT_NE(a.name, b.name);
+      if (a.type == b.type) {
+        EXPECT_TRUE(a.max_form < b.min_form || b.max_form < a.min_form) << a.name << b.name;
+      }
+    }
+  }
+  // The classes of this library so far; a class that arrives flips its row.
+  EXPECT_EQ(active, 8);
+  // Each active row is one live registration (others may be made by tests, and go again).
+  EXPECT_GE(igsFactory::num_registrations(), active);
+}
+
+TEST_F(FactoryTest, EveryRegisteredRangeMakesItsClassWithItsTypeInTheCurrentFile) {
+  for (Row const& row : table()) {
+    for (int form : {row.min_form, row.max_form}) {
+      SCOPED_TRACE(row.name + " form " + std::to_string(form));
+      Made made = make(row.type, form);
+      ASSERT_NE(made.object, nullptr);
+      EXPECT_EQ(made.name(), row.active ? row.name : "igsUnknown");
+      EXPECT_EQ(&made.object->file(), file.get());
+      if (!row.active) continue;
+      // The class's constructor stores its own type and a form of its range.
+      igsDirectoryEntry const& de = made.object->directory_entry();
+      EXPECT_EQ(de.entity_type(), row.type);
+      if (row.type > 0) {
+        EXPECT_GE(de.form_number(), row.min_form);
+        EXPECT_LE(de.form_number(), row.max_form);
+      }
+    }
+    // Just outside the range (which for type 0 and -1 is the whole of int but its lowest
+    // value), no other row of the type may claim the form.
+    if (row.max_form == INT_MAX) continue;
+    for (int form : {row.min_form - 1, row.max_form + 1})
+      EXPECT_EQ(make(row.type, form).name(), expected_class(row.type, form))
+          << row.name << " form " << form;
+  }
+}
+
+TEST_F(FactoryTest, EveryTypeAndFormOfTheNameTablesLeadsToItsClassOrToUnknown) {
+  struct Form {
+    int type, min_form, max_form;
+  };
+  std::vector<Form> forms = {
+#define IGS_FORM_INFO(type, min_form, max_form, name) {type, min_form, max_form},
+#include "core/igsInfoDB.def"
+  };
+  std::vector<int> types = {
+#define IGS_ENTITY_INFO(type, name, default_form) type,
+#include "core/igsInfoDB.def"
+  };
+  int made = 0;
+  for (Form const& f : forms)
+    for (int form = f.min_form; form <= f.max_form && form <= f.min_form + 200; ++form) {
+      EXPECT_EQ(make(f.type, form).name(), expected_class(f.type, form))
+          << f.type << " form " << form;
+      ++made;
+    }
+  // Types without a list of forms have form 0 alone; the default form of every type too.
+  for (int type : types) {
+    int form = 0, found = 0;
+    igsInfoDB::default_form_number(type, form, found);
+    EXPECT_EQ(make(type, form).name(), expected_class(type, form)) << type << " form " << form;
+    ++made;
+  }
+  EXPECT_EQ(file->num_entities(), made);
+}
+
+TEST_F(FactoryTest, EdgeCasesOfTypesAndForms) {
+  // Each form of 106 has its own class; 402 forms 14 and 15 share one.
+  EXPECT_EQ(make(106, 2).name(), "igsPointset");
+  EXPECT_EQ(make(106, 12).name(), "igsPolyline");
+  EXPECT_EQ(make(106, 63).name(), "igsSimpleClosedPlanarCurve");
+  EXPECT_EQ(make(106, 0).name(), "igsUnknown");
+  EXPECT_EQ(make(106, 4).name(), "igsUnknown");
+  EXPECT_EQ(make(402, 14).name(), expected_class(402, 15));
+  EXPECT_EQ(make(126, 5).name(), expected_class(126, 0));
+  EXPECT_EQ(make(126, 6).name(), "igsUnknown");
+  // The made object holds the class's default form; the reader stores the DE's form over it.
+  EXPECT_EQ(make(106, 13).object->directory_entry().form_number(), 11);
+
+  // Type 0 accepts every form but the one below the range; unknown types make igsUnknown.
+  for (int form : {0, 99, -7, INT_MAX, INT_MIN + 1}) EXPECT_EQ(make(0, form).name(), "igsNull");
+  EXPECT_EQ(make(0, INT_MIN).name(), "igsUnknown");
+  EXPECT_EQ(make(999, 0).name(), "igsUnknown");
+  EXPECT_EQ(make(125, 0).name(), "igsUnknown"); // known to the name tables, no class
+  EXPECT_EQ(make(-1, 3).name(), "igsUnknown");
+  EXPECT_EQ(make(INT_MIN, 0).name(), "igsUnknown");
+}
+
+TEST_F(FactoryTest, RegistrationsMatchInTheirOrderAndLeaveWhenDestroyed) {
+  igsEntityType const type = static_cast<igsEntityType>(9100);
+  int before = igsFactory::num_registrations();
+  EXPECT_EQ(make(9100, 0).name(), "igsUnknown");
+  {
+    igsFactory nothing;
+    EXPECT_EQ(igsFactory::num_registrations(), before);
+    igsFactory shape(type, 0, 5, new testShape);
+    igsFactory round(type, 3, 9, new testRound); // overlaps: the first registration wins
+    EXPECT_EQ(igsFactory::num_registrations(), before + 2);
+    EXPECT_EQ(make(9100, 0).name(), "testShape");
+    EXPECT_EQ(make(9100, 5).name(), "testShape");
+    EXPECT_EQ(make(9100, 6).name(), "testRound");
+    EXPECT_EQ(make(9100, 9).name(), "testRound");
+    EXPECT_EQ(make(9100, 10).name(), "igsUnknown");
+    EXPECT_EQ(make(9100, -1).name(), "igsUnknown");
+    // A registration whose prototype is gone makes an igsUnknown rather than fail.
+    igsFactory lost(static_cast<igsEntityType>(9101), 0, 0, nullptr);
+    EXPECT_EQ(make(9101, 0).name(), "igsUnknown");
+  }
+  EXPECT_EQ(igsFactory::num_registrations(), before);
+  // The table keeps what was registered; the prototypes lived in this test's file, and once
+  // that is closed the registrations make igsUnknown instead of reaching a deleted prototype.
+  EXPECT_EQ(make(9100, 0).name(), "testShape");
+  file = std::make_unique<igsFile>();
+  EXPECT_EQ(make(9100, 0).name(), "igsUnknown");
+  EXPECT_EQ(make(9100, 9).name(), "igsUnknown");
+  EXPECT_EQ(make(110, 0).name(), "igs110");
+}
+
+class AccessObject : public igsObject {
+ public:
+  static igsObject* create(int type, int form) {
+    return igsObject::create(static_cast<igsEntityType>(type), form);
+  }
+  static int read(igsObject& e, igsInStream& in) { return (e.*&AccessObject::read_pd_data)(in); }
+};
+
+TEST_F(FactoryTest, NullAndUnknownEntitiesHoldNothing) {
+  igsObject* null = AccessObject::create(0, 5);
+  igsObject* unknown = AccessObject::create(777, 0);
+  ASSERT_TRUE(null->isa(igsNull::type()));
+  ASSERT_TRUE(unknown->isa(igsUnknown::type()));
+  EXPECT_EQ(null->directory_entry().entity_type(), igsEntityTypeNull);
+  EXPECT_EQ(unknown->directory_entry().entity_type(), igsEntityTypeUnknown);
+  EXPECT_EQ(null->directory_entry().form_number(), 0);
+  EXPECT_EQ(unknown->directory_entry().form_number(), 0);
+
+  std::istringstream text("1,2,3;");
+  igsInStream in(text);
+  EXPECT_EQ(AccessObject::read(*null, in), 0);
+  EXPECT_EQ(AccessObject::read(*unknown, in), 0);
+
+  std::ostringstream out;
+  utOstream stream(out);
+  null->print(stream);
+  unknown->print(stream);
+  std::string printed = out.str();
+  EXPECT_NE(printed.find("  NullEntity\n}\n"), std::string::npos) << printed;
+  EXPECT_NE(printed.find("  UnknownEntity\n}\n"), std::string::npos) << printed;
+  EXPECT_EQ(null->check(), 1);
+  EXPECT_EQ(unknown->check(), 1);
+}
+
+} // namespace
