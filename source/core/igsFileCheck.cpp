@@ -58,6 +58,7 @@ class igsViewNumberProposer {
 
 void igsFile::check() const {
   igsCurrentFileScope current(*this);
+  global_section().check();
   igsObjectSystem::reentrant_start();
   for (int location = 0; location < m_table.size(); ++location)
     if (igsObject* object = object_at(location)) object->check();

@@ -2,6 +2,7 @@
 // and drafting standards.
 #pragma once
 
+#include "core/igsUnset.h"
 #include "support/utString.h"
 
 #include <vector>
@@ -34,7 +35,7 @@ class igsFormInfo {
 class igsEntityInfo {
  public:
   // The default form of a type that has none.
-  static constexpr int no_default_form = -2147483647; // 0x80000001, the unset int
+  static constexpr int no_default_form = igs_unset_int;
 
   igsEntityInfo(utString const& name, int default_form)
       : m_name(name), m_default_form(default_form) {}

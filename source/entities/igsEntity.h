@@ -12,21 +12,10 @@
 #include "sections/igsDirectoryEntry.h"
 #include "support/coResource.h"
 #include "support/giGeometry.h"
+#include "core/igsUnset.h"
 #include "support/utOstream.h"
 
 #include <type_traits>
-
-// Fields that have no value yet hold these; points and vectors are unset when
-// default-constructed (their `invalid` test), references when null.
-inline constexpr double igs_unset_double = gi_unset_double;        // the most negative double
-inline constexpr int igs_unset_int = static_cast<int>(0x80000001); // one above the smallest int
-
-inline int igs_unset(double value) {
-  return value == igs_unset_double;
-}
-inline int igs_unset(int value) {
-  return value == igs_unset_int;
-}
 
 // The rule of the setters of geometry values: a valid value is stored and gives 1; an
 // invalid one leaves the field as it was and gives 0.

@@ -3,6 +3,7 @@
 // its `fix` says whether it could be settled.
 #pragma once
 
+#include "core/igsUnset.h"
 #include "support/kvnabs.h"
 #include "support/kvuTypeInfo.h"
 
@@ -67,7 +68,7 @@ class igsError {
 class igsIndexedError : public igsError {
   KVU_DECLARE_TYPE()
  public:
-  static constexpr int unset_key = static_cast<int>(0x80000001);
+  static constexpr int unset_key = igs_unset_int;
   int key() const { return m_key; }
   void set_key(int key) { m_key = key; }
 

@@ -5,21 +5,13 @@
 #include "entities/curves/igsPolyline.h"
 #include "sections/igsDirectoryEntry.h"
 
-// The new entity takes the attributes of the old one, but keeps its own type and form. The
-// attributes whose setters the Directory Entry offers are copied: structure, view, label
-// display, line weight, label and subscript.
+// The new entity takes every attribute of the old one (line font, level, view, matrix, label,
+// status, colour and the others) but keeps its own type and form.
 static void copy_directory_entry(igsObject const& from, igsObject& to) {
-  igsDirectoryEntry const& source = from.directory_entry();
   igsDirectoryEntry& target = to.directory_entry();
-  target.set_structure(source.structure());
-  if (source.view())
-    target.set_view(source.view());
-  else
-    target.remove_view();
-  target.set_label_display(source.label_display());
-  target.set_line_weight_number(source.line_weight_number());
-  target.set_entity_label(source.entity_label());
-  target.set_entity_subscript(source.entity_subscript());
+  int form = target.form_number();
+  target.become(from.directory_entry());
+  target.set_form_number(form);
 }
 
 igsObject* igsConvert::to_curve(igsObject const* entity) {

@@ -4,7 +4,7 @@
 
 #include "sections/igsDate.h"
 #include "sections/igsUnits.h"
-#include "sections/igsUnset.h"
+#include "core/igsUnset.h"
 #include "support/giGeometry.h"
 
 class igsFile;

@@ -2,7 +2,7 @@
 #pragma once
 
 #include "input/igsIOError.h"
-#include "sections/igsUnset.h"
+#include "core/igsUnset.h"
 
 class igsFile;
 class igsInStream;

@@ -1,7 +1,7 @@
 // The units flag and units name of the Global section, and conversions between units.
 #pragma once
 
-#include "sections/igsUnset.h"
+#include "core/igsUnset.h"
 #include "support/utString.h"
 
 class igsGlobalError;

@@ -3,6 +3,7 @@
 #include "entities/structure/igs410_0ViewNumber.h"
 #include "errors/igsFixer.h"
 
+#include <algorithm>
 #include <climits>
 #include <string>
 #include <vector>
@@ -253,6 +254,26 @@ TEST_F(FileCheckTest, WithoutAViewClassThereAreNoViewNumbersToCheck) {
   new testView(-3);
   file->check();
   EXPECT_EQ(object_log().num_errors(), 0);
+}
+
+} // namespace
+
+namespace {
+
+// The file's check judges its Global section first: a section built in memory and left with
+// its unset precisions fails the precision tests, and a clean leaves the repaired values.
+TEST_F(FileCheckTest, CheckJudgesTheGlobalSectionAndCleanRepairsIt) {
+  file->check();
+  igsSimpleSectionLog& global = log().get_section_log(igsGlobalLog);
+  std::vector<std::string> names;
+  for (igsSimpleSectionLogIT it(&global); ++it;) names.push_back(it()->objtype().name());
+  EXPECT_NE(std::find(names.begin(), names.end(), "igsGlobalSectionInvalidSinglePrecMagnitude"),
+            names.end());
+  EXPECT_NE(std::find(names.begin(), names.end(), "igsGlobalSectionInvalidMinResolution"),
+            names.end());
+  file->clean(0);
+  EXPECT_EQ(file->global_section().sp_max_pow10(), 38);
+  EXPECT_EQ(file->global_section().minimum_resolution(), 0.0001);
 }
 
 } // namespace

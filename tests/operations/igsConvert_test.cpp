@@ -18,7 +18,8 @@ TEST_F(ConvertTest, LinesAndPointSetsBecomePolylinesOfTheirPoints) {
   auto* line = new igs110;
   ASSERT_EQ(read(*line, {"110,1.,2.,3.,4.,5.,6.;"}), 1);
   line->directory_entry().set_entity_label("L1");
-  line->directory_entry().set_line_weight_number(3);
+  line->directory_entry().set_line_weight_number(1);
+  line->directory_entry().set_level(igsLevel(7));
   igsObject* from_line = igsConvert::to_curve(line);
   ASSERT_NE(from_line, nullptr);
   ASSERT_TRUE(from_line->isa(igsPolyline::type()));
@@ -26,7 +27,8 @@ TEST_F(ConvertTest, LinesAndPointSetsBecomePolylinesOfTheirPoints) {
   EXPECT_EQ(from_line->de_number(), 3);
   EXPECT_EQ(from_line->directory_entry().form_number(), 12);
   EXPECT_EQ(from_line->directory_entry().entity_label(), "L1");
-  EXPECT_EQ(from_line->directory_entry().line_weight_number(), 3);
+  EXPECT_EQ(from_line->directory_entry().line_weight_number(), 1);
+  EXPECT_EQ(from_line->directory_entry().level().level(), 7);
   EXPECT_EQ(written(*from_line), records({"106,2,2,1.,2.,3.,4.,5.,6.;"}));
   EXPECT_EQ(checked(*from_line), std::vector<std::string>{});
 

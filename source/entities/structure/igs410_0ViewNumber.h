@@ -5,13 +5,14 @@
 // installed a file has no views to check.
 #pragma once
 
+#include "core/igsUnset.h"
 #include "core/igsObject.h"
 #include "errors/igsErrorClass.h"
 
 class igsViewNumbering {
  public:
   // The number of a view that has none.
-  static constexpr int unset_number = static_cast<int>(0x80000001);
+  static constexpr int unset_number = igs_unset_int;
 
   virtual ~igsViewNumbering() = default;
   // The exact class of the view entities.
