@@ -54,6 +54,11 @@ struct EntityText {
   int start = 0;       // 0: the first P line of the entity
   int count = -1;      // -1: the number of its P lines
   int backpointer = 0; // 0: its DE number
+  // Attributes of the D lines.
+  int colour = 0;
+  int level = 0;
+  std::string label;
+  int subscript = 0;
 };
 
 // An IGES file as text: one Start line, the Global section, then the entities' D and P lines
@@ -81,11 +86,14 @@ class FileText {
       int n = static_cast<int>(lines.size());
       int count = e.count < 0 ? static_cast<int>(e.data.size()) : e.count;
       int start = e.start ? e.start : next_p;
-      lines.push_back(
-          record('D', n + 1, right(e.type, 8) + right(start, 8) + zeros(6) + "00000000"));
+      lines.push_back(record('D', n + 1,
+                             right(e.type, 8) + right(start, 8) + zeros(2) + right(e.level, 8) +
+                                 zeros(3) + "00000000"));
       lines.push_back(record('D', n + 2,
-                             right(e.second_type, 8) + zeros(2) + right(count, 8) +
-                                 right(e.form, 8) + std::string(24, ' ') + zeros(1)));
+                             right(e.second_type, 8) + zeros(1) + right(e.colour, 8) +
+                                 right(count, 8) + right(e.form, 8) + std::string(16, ' ') +
+                                 (std::string(8, ' ') + e.label).substr(e.label.size()) +
+                                 right(e.subscript, 8)));
       next_p += static_cast<int>(e.data.size());
     }
     return lines;
@@ -155,10 +163,11 @@ class ReadTest : public ::testing::Test {
     return messages.text();
   }
 
-  static std::string printed(igsFile const& f) {
+  // What print writes, for a file or an entity.
+  template <class T> static std::string printed(T const& printable) {
     std::ostringstream text;
     utOstream out(text);
-    f.print(out);
+    printable.print(out);
     return text.str();
   }
 
