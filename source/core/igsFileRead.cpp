@@ -113,13 +113,16 @@ int igsFile::read_parameter_data_section(igsInStream& in) {
       tag_error(new (std::nothrow) igsFileIncorrectStartOfPD(backpointer, line, start_in_de));
     int bad_line_numbers = 0;
     int blank_lines = 0;
-    current->read(in, bad_line_numbers, blank_lines);
+    int sound = current->read(in, bad_line_numbers, blank_lines);
     if (bad_line_numbers) m_invalid_line_numbers = 1;
     if (blank_lines) m_blank_line = 1;
     if (!in.reset()) {
       // What was read into the entity from a line that failed this way is not trustworthy.
-      if (current && (in.error_type(igsIOBadBackpointer) || in.error_type(igsIOBadLineNumber) ||
-                      in.error_type(igsIOBadSectionLetter)))
+      // A line that fails behind a record read to its end (a T line without its number) took
+      // nothing from it.
+      if (current && !sound &&
+          (in.error_type(igsIOBadBackpointer) || in.error_type(igsIOBadLineNumber) ||
+           in.error_type(igsIOBadSectionLetter)))
         delete current();
       break;
     }
