@@ -214,7 +214,7 @@ void igsDirectoryEntry::set_fields(igsDirectoryFields const& f) {
   m_colour = igsColour(f.colour);
   m_parameter_line_count = f.parameter_line_count;
   m_form_number = f.form_number;
-  m_entity_label = f.entity_label.is_null() ? utString("") : f.entity_label;
+  m_entity_label = f.entity_label.is_null() ? no_label() : f.entity_label;
   m_entity_subscript = f.entity_subscript;
 }
 
@@ -248,6 +248,11 @@ igsDirectoryFields igsDirectoryEntry::fields() const {
   f.entity_label = m_entity_label;
   f.entity_subscript = m_entity_subscript;
   return f;
+}
+
+utString const& igsDirectoryEntry::no_label() {
+  static utString const empty("");
+  return empty;
 }
 
 igsEntityType igsDirectoryEntry::get_entity_type(int type) {
