@@ -6,6 +6,7 @@
 #include "entities/curves/igs110.h"
 #include "entities/curves/igs116.h"
 #include "input/igsInStream.h"
+#include "output/outputTestSupport.h"
 #include "sections/igsDirectoryEntry.h"
 
 using namespace igs_read_test;
@@ -594,6 +595,44 @@ TEST(DirectoryFieldsRead, TheReadersWayGivesWhatThePlainReadGives) {
     EXPECT_EQ(read_fields(true, line, column), plain);
     EXPECT_EQ(line, plain_line);
     EXPECT_EQ(column, plain_column);
+  }
+}
+
+// Reaches the protected record operations of any entity.
+struct RecordAccess : igsObject {
+  static void write_record(igsObject& e, igsOutStream& out) { (e.*&RecordAccess::write)(out); }
+  static void read_tail(igsObject& e, igsInStream& in) {
+    (e.*&RecordAccess::read_additional_entity_pointers)(in);
+  }
+};
+
+TEST_F(ReadTest, AnEntityWritesItsTypeThenItsParametersAndDropsPointersBehindThem) {
+  FileText f;
+  f.add(116, 0, {"116,1.,2.,3.,3;"});
+  f.add(110, 0, {"110,0.,0.,0.,1.,1.,1.;"});
+  ASSERT_EQ(read(f.text()), 1);
+  auto* point = entity<igs116>(1);
+  EXPECT_EQ(igs_output_test::written([&](igsOutStream& out) {
+              out.set_section(igsSectionParameter);
+              RecordAccess::write_record(*point, out);
+              out.set_backpointer(3);
+            }),
+            Lines{record('P', 1, "116,1.,2.,3.,3;", 1)});
+
+  // Two lists of back pointers behind the parameters are read and dropped up to the end of
+  // the record; a count far beyond what stands there ends with the record.
+  for (std::string tail : {"2,11,13,1,15;", "1000000000,7;"}) {
+    SCOPED_TRACE(tail);
+    std::istringstream text(igs_input_test::join(
+        {record('P', 1, "116,1.,2.,3.,0," + tail, 1), record('P', 2, "110,4.;", 3)}));
+    igsInStream in(text);
+    in.reset();
+    double skipped = 0.0;
+    for (int i = 0; i < 5; ++i) in.read_double(skipped);
+    RecordAccess::read_tail(*point, in);
+    int next = 0;
+    in.read_integer(next);
+    EXPECT_EQ(next, 110);
   }
 }
 

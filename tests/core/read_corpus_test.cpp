@@ -23,34 +23,9 @@
 
 namespace {
 
-// The records of a file as a plain reader sees them: physical lines cut at LF (a CR before it
-// dropped), blank lines dropped, runs longer than a record cut into 80-column records.
-std::vector<std::string> records_of(std::string const& bytes) {
-  std::vector<std::string> records;
-  size_t start = 0;
-  while (start < bytes.size()) {
-    size_t end = bytes.find('\n', start);
-    if (end == std::string::npos) end = bytes.size();
-    std::string line = bytes.substr(start, end - start);
-    start = end + 1;
-    if (!line.empty() && line.back() == '\r') line.pop_back();
-    if (line.find_first_not_of(" \t\r") == std::string::npos) continue;
-    for (size_t at = 0; at < line.size(); at += 80)
-      records.push_back(
-          line.substr(at, line.size() - at > 80 && line.size() > 81 ? 80 : std::string::npos));
-  }
-  return records;
-}
-
 char section_of(std::string const& record) {
   return record.size() >= 9 ? record[record.size() - 8] : ' ';
 }
-
-// One entity as its D and P lines tell it.
-struct EntityText {
-  int type = 0;
-  std::string data; // columns 1 to 64 of its P lines, joined
-};
 
 struct FileText {
   char parameter = ',';
@@ -63,7 +38,7 @@ struct FileText {
 FileText parse(std::string const& bytes) {
   FileText f;
   std::string global;
-  for (std::string const& r : records_of(bytes)) {
+  for (std::string const& r : igs_test::records_of(bytes)) {
     switch (section_of(r)) {
     case 'G':
       global += r.substr(0, r.size() - 8);

@@ -271,4 +271,37 @@ TEST(igsInStream, CodesStandUntilCollectedAndCarryTheirLocation) {
   EXPECT_EQ(describe(r.stream.errors()), Lines{"igsIOValuePresent@G2:6"});
 }
 
+// The codes of a line at which the stream stops belong to the reader of that line: they are
+// held back from the reader that stopped in front of it and stand once the stop ends. A code
+// that stood already stays for both.
+TEST(igsInStream, CodesOfALineWhereTheStreamStopsStandForItsReader) {
+  std::string const nul_line = with(record('P', 2, "2,3;", 3), 60, '\0');
+  for (int ends_in_last_column = 0; ends_in_last_column < 2; ++ends_in_last_column) {
+    SCOPED_TRACE(ends_in_last_column ? "record delimiter in the last column" : "in mid-line");
+    std::string first = ends_in_last_column ? std::string(62, ' ') + "1;" : "1;";
+    Reader r({record('P', 1, first, 1), "", nul_line});
+    EXPECT_EQ(r.integer(), 1);
+    EXPECT_EQ(r.integer(), 0); // behind the record delimiter
+    // Where the record's end fetched the next line, the stop there is told at once.
+    Codes stop = ends_in_last_column ? Codes{igsIOEntityEnd} : Codes{};
+    stop.push_back(igsIOValuePresent);
+    EXPECT_EQ(r.codes(), stop);
+    EXPECT_TRUE(r.stream.reset());
+    EXPECT_EQ(r.line(), 2);
+    EXPECT_EQ(r.codes(), (Codes{igsIONullCharacter, igsIOBlankLine}));
+    EXPECT_EQ(r.integer(), 2);
+    EXPECT_EQ(r.codes(), Codes{igsIOValuePresent});
+  }
+
+  // A NUL on both lines, the first not yet collected when the record's end fetches the second.
+  Reader both({with(record('P', 1, std::string(62, ' ') + "1;", 1), 30, '\0'), nul_line});
+  EXPECT_EQ(both.integer(), 1);
+  EXPECT_TRUE(both.stream.frozen());
+  EXPECT_EQ(both.codes(), (Codes{igsIONullCharacter, igsIOEntityEnd, igsIOValuePresent}));
+  EXPECT_TRUE(both.stream.reset());
+  EXPECT_EQ(both.codes(), Codes{igsIONullCharacter});
+  EXPECT_EQ(both.integer(), 2);
+  EXPECT_EQ(both.codes(), Codes{igsIOValuePresent});
+}
+
 } // namespace

@@ -12,25 +12,14 @@ using namespace igs_sections_test;
 
 namespace {
 
-// The data columns of the G lines, joined. A physical line is cut at LF (a CR before it is
-// dropped); a run longer than a record is cut into 80-column records; the section letter
-// stands 8 columns from the end of a record, whatever its width.
+// The data columns of the G lines, joined.
 std::string joined_g_data(std::string const& bytes) {
   std::string data;
-  size_t start = 0;
-  while (start < bytes.size()) {
-    size_t end = bytes.find('\n', start);
-    if (end == std::string::npos) end = bytes.size();
-    std::string line = bytes.substr(start, end - start);
-    start = end + 1;
-    if (!line.empty() && line.back() == '\r') line.pop_back();
-    for (size_t at = 0; at < line.size(); at += 80) {
-      std::string record = line.substr(at, line.size() > 80 ? 80 : std::string::npos);
-      if (record.size() < 9 || record[record.size() - 8] != 'G') continue;
-      std::string columns = record.substr(0, record.size() - 8);
-      columns.resize(72, ' ');
-      data += columns;
-    }
+  for (std::string const& record : igs_test::records_of(bytes)) {
+    if (record.size() < 9 || record[record.size() - 8] != 'G') continue;
+    std::string columns = record.substr(0, record.size() - 8);
+    columns.resize(72, ' ');
+    data += columns;
   }
   return data;
 }

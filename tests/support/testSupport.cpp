@@ -31,6 +31,21 @@ std::string read_file(std::filesystem::path const& path) {
   return out.str();
 }
 
+std::vector<std::string> records_of(std::string const& bytes) {
+  std::vector<std::string> records;
+  size_t start = 0;
+  while (start < bytes.size()) {
+    size_t end = bytes.find('\n', start);
+    if (end == std::string::npos) end = bytes.size();
+    std::string line = bytes.substr(start, end - start);
+    start = end + 1;
+    if (!line.empty() && line.back() == '\r') line.pop_back();
+    for (size_t at = 0; at < line.size(); at += 80)
+      records.push_back(line.substr(at, line.size() > 80 ? 80 : std::string::npos));
+  }
+  return records;
+}
+
 std::filesystem::path source_dir() {
   return IGS_TEST_SOURCE_DIR;
 }

@@ -16,6 +16,11 @@ std::vector<std::filesystem::path> corpus_files();
 // The whole content of a file as bytes; empty if it cannot be read.
 std::string read_file(std::filesystem::path const& path);
 
+// The records of a file as a plain reader sees them: physical lines cut at LF (a CR before it
+// dropped), and a run longer than a record cut into 80-column records. The section letter of
+// a record stands 8 columns from its end, whatever its width.
+std::vector<std::string> records_of(std::string const& bytes);
+
 // The repository's own folder, for the shipped samples.
 std::filesystem::path source_dir();
 
