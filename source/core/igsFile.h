@@ -10,7 +10,10 @@
 #include "support/kvuTypeInfo.h"
 #include "support/utOstream.h"
 
+#include <iosfwd>
+
 class igsError;
+class igsOutStream;
 
 class igsFile {
  public:
@@ -28,6 +31,14 @@ class igsFile {
   // not 0, deletes in slot order the entities that still have logged errors; references to
   // them read null. Runs with this file current, as check.
   void clean(int delete_bad);
+
+  // Writes the whole file: Start, Global, Directory, Parameter and Terminate sections. Packs
+  // the table first, so DE numbers run 1, 3, 5, ... and each Directory Entry gets its new
+  // parameter pointers. The Parameter section goes through a temporary file in the write
+  // directory, which is removed however the writing ends. Runs with this file current, so
+  // the errors of overflowing limits go to its log. 1 on success; 0 when the temporary file
+  // cannot be made, the stream fails, or a limit is exceeded. The stream is not closed.
+  int write(std::ostream& stream, utOstream& messages);
 
   void print(utOstream& out) const;
   // Moves every reference of the old entity to the new one, deletes the old one and gives
@@ -69,6 +80,17 @@ class igsFile {
   // Destroys the managers of DE numbers that were referenced but never got an entity, so
   // that every reference to them reads null for good.
   void remove_forward_references();
+
+  // The Directory and Parameter sections: the parameter data to a temporary file first, each
+  // entity's Directory Entry taking its parameter pointer and line count from it, then the
+  // D lines, then the copied P lines. `out` writes to `stream` and has just left the Global
+  // section.
+  int write_data_section(std::ostream& stream, igsOutStream& out);
+  // The two D lines of every entity in slot order; 0 if the stream failed.
+  int write_directory_entries(igsOutStream& out);
+  // Copies the finished P lines of the temporary file to the stream; 0 if the file cannot be
+  // read or the stream failed.
+  int write_parameter_data_section(std::ostream& stream, char const* temp_name);
 
  private:
   friend class igsObjectSystem;

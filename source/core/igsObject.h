@@ -74,6 +74,9 @@ class igsObject {
   // A new entity of the class registered for the type and form, or an igsUnknown.
   static igsObject* create(igsEntityType type, int form);
 
+  // Writes the entity's record: its type as the first field, then its parameter data.
+  void write(igsOutStream& out);
+
  private:
   friend class igsFactory;
   friend class igsFile;
