@@ -12,8 +12,11 @@
 #include "entities/curves/igsPointset.h"
 #include "entities/curves/igsPolyline.h"
 #include "entities/curves/igsSimpleClosedPlanarCurve.h"
+#include "support/kvuTempFile.h"
 
+#include <algorithm>
 #include <filesystem>
+#include <fstream>
 #include <vector>
 
 namespace {
@@ -81,10 +84,12 @@ template <class T> class KeyScope {
 class WriteTest : public FileTest {
  protected:
   WriteTest() {
-    static int count = 0;
-    fs::path dir = fs::temp_directory_path() /
-                   ("igs-write-test-" + std::to_string(::getpid()) + "-" + std::to_string(++count));
-    fs::create_directories(dir);
+    // A folder of its own next to a name nothing else uses, so that it holds only what the
+    // test's writes leave there.
+    fs::path unique(kvu_make_temp_file_name(utString("")).c_str());
+    fs::path dir = unique.string() + ".d";
+    fs::create_directory(dir);
+    fs::remove(unique);
     write_dir = dir;
     file->set_write_dir(utString(dir.string()));
     file->set_message_stream(&messages);
@@ -315,6 +320,153 @@ TEST_F(WriteTest, ALongRecordRunsOverManyLinesWithItsCountInTheDirectoryEntry) {
   EXPECT_EQ(de_field(text, 5, 1, 9), 2 + *count);
   EXPECT_EQ(record(text, 3), expected + ";");
   EXPECT_EQ(record(text, 5), "116,9.,9.,9.,0;");
+}
+
+// A node whose record moves the back pointer past its seven columns, as the record after the
+// five millionth entity would: so many entities do not fit into a unit test.
+class testFarNode : public testNode {
+ protected:
+  void write_pd_data(igsOutStream& out) override {
+    out.write_integer(1);
+    out.set_backpointer(igsOutBufferFormatter::max_number + 2);
+    out.write_integer(2);
+  }
+};
+
+TEST_F(WriteTest, NoTemporaryFileStaysWhateverHappensToTheDestination) {
+  point(giPoint3(1.0, 2.0, 3.0));
+  std::vector<giPoint3> points(40, giPoint3(0.125, 0.25, 0.5));
+  tuples<igsPolyline>(igsPolylineXYZ, points);
+  line(giPoint3(0.0, 0.0, 0.0), giPoint3(1.0, 1.0, 1.0));
+  std::string const full = written();
+  size_t const line = 81;
+  size_t const d_start = 4 * line;           // S and three G lines
+  size_t const p_start = d_start + 6 * line; // three entities
+  // The destination fails within S, G, D, the copied P lines and T; once also for a stream
+  // that would throw: nothing is thrown at the caller.
+  for (size_t limit : {size_t(0), size_t(40), 2 * line + 5, d_start + 100, p_start + 10,
+                       full.size() - line / 2, full.size() - 1}) {
+    for (bool throwing : {false, true}) {
+      LimitedBuffer buffer(limit);
+      std::ostream stream(&buffer);
+      if (throwing) stream.exceptions(std::ios::badbit | std::ios::failbit);
+      std::ostringstream notes;
+      utOstream out(notes);
+      EXPECT_EQ(file->write(stream, out), 0) << limit;
+      // A stream that would throw keeps its state: the codes of the failure stay inside.
+      EXPECT_EQ(stream.bad(), !throwing) << limit;
+      EXPECT_EQ(buffer.text(), full.substr(0, limit)) << limit;
+      EXPECT_TRUE(fs::is_empty(write_dir)) << limit;
+    }
+  }
+  // A destination that failed before the write takes nothing.
+  std::ostringstream failed;
+  failed.setstate(std::ios::failbit);
+  std::ostringstream notes;
+  utOstream out(notes);
+  EXPECT_EQ(file->write(failed, out), 0);
+  EXPECT_EQ(failed.str(), "");
+  // The file is unharmed: a good destination receives it whole again.
+  EXPECT_EQ(written(), full);
+}
+
+TEST_F(WriteTest, WithoutATemporaryFileNothingButStartAndGlobalIsWritten) {
+  point(giPoint3(1.0, 2.0, 3.0));
+  fs::path const regular = write_dir / "a file";
+  std::ofstream(regular) << "not a folder";
+  for (fs::path const& dir : {write_dir / "missing", regular}) {
+    file->set_write_dir(utString(dir.string()));
+    std::ostringstream text;
+    std::ostringstream notes;
+    utOstream out(notes);
+    EXPECT_EQ(file->write(text, out), 0);
+    EXPECT_EQ(section_lines(text.str(), 'S').size(), 1u);
+    EXPECT_EQ(section_lines(text.str(), 'G').size(), 3u);
+    EXPECT_EQ(text.str().size(), 4 * 81u);
+  }
+  EXPECT_FALSE(fs::exists(write_dir / "missing"));
+  EXPECT_EQ(std::distance(fs::directory_iterator(write_dir), fs::directory_iterator()), 1);
+}
+
+TEST_F(WriteTest, ParametricEntitiesAreWrittenWithTheParametricPrecision) {
+  KeyScope<int> parametric(kvnOptDoubleParametricPrecision, 4);
+  KeyScope<int> geometric(kvnOptDoubleGeometricPrecision, 9);
+  giPoint3 const start(1.23456789012, -0.000123456789, 98765.4321);
+  giPoint3 const end(0.5, 2.0, 1.0 / 3.0);
+  for (int use : {igsUseGeometry, igsUse2DParametric, igsUseConstructional}) {
+    igs110* l = line(start, end);
+    EXPECT_EQ(l->directory_entry().set_status_flags(igsStatusFlags(0, 0, use, 0)), 1);
+  }
+  std::string text = written();
+  char const* const geometric_record =
+      "110,1.23456789,-0.000123456789,98765.4321,0.5,2.,0.333333333;";
+  EXPECT_EQ(record(text, 1), geometric_record);
+  EXPECT_EQ(record(text, 3), "110,1.235,-0.0001235,9.877D+04,0.5,2.,0.3333;");
+  // The format is popped behind the parametric entity.
+  EXPECT_EQ(record(text, 5), geometric_record);
+}
+
+TEST_F(WriteTest, ABackPointerBeyondSevenDigitsFailsTheWriteWithItsError) {
+  point(giPoint3(1.0, 2.0, 3.0));
+  new testFarNode;
+  point(giPoint3(4.0, 5.0, 6.0));
+  // Another file is current; the error still goes to the log of the file written.
+  auto other = std::make_unique<igsFile>();
+  std::string text = written(0);
+  EXPECT_EQ(&igsObjectSystem::file(), other.get());
+  EXPECT_EQ(section_lines(text, 'D').size(), 0u);
+  EXPECT_EQ(section_lines(text, 'T').size(), 0u);
+  igsObjectSystem::set_current_file(*file);
+  std::vector<std::string> errors;
+  for (igsSimpleSectionLogIT it(&structure_log()); ++it;) {
+    errors.push_back(it()->objtype().name());
+    EXPECT_EQ(it()->fix(), 0);
+  }
+  EXPECT_EQ(errors, std::vector<std::string>{"igsFileBackPtrTooLarge"});
+  EXPECT_EQ(messages.text(),
+            "Error: IGES limit of 5 million entities exceeded.\nSee the Frequently Asked "
+            "Questions in the Help for more details");
+}
+
+TEST_F(WriteTest, TheStructuralCheckFindsTheFaultsOfDamagedFiles) {
+  ASSERT_EQ(igs_test::written_file_faults(small_file), std::vector<std::string>{});
+  // Each case changes the small file at one place: line (from 1), column (from 1), new text.
+  struct Damage {
+    int line;
+    int column;
+    std::string text;
+    std::string fault;
+  };
+  std::vector<Damage> const cases = {
+      {5, 73, "P", "line 6: section D out of order"},
+      {3, 80, "4", "line 3: sequence number '      4', expected 2"},
+      {5, 80, "3", "line 5: sequence number '      3', expected 1"},
+      {9, 73, "X", "line 9: section letter 'X'"},
+      {14, 16, "4", "line 14: T line says 'G      4' for 3 lines"},
+      {7, 8, "1", "line 7: entity types differ on the two D lines"},
+      {7, 16, "3", "line 12: DE 3 says lines 3+1, its record has 2+1"},
+      {10, 32, "2", "line 13: DE 5 says lines 3+2, its record has 3+1"},
+      {12, 72, "5", "line 12: back pointer '      5', expected 3"},
+      {11, 65, "X", "line 11: column 65 is not blank"},
+      {13, 1, "101", "line 13: record of DE 5 does not start with 100"},
+  };
+  for (Damage const& d : cases) {
+    std::string damaged = small_file;
+    damaged.replace(static_cast<size_t>((d.line - 1) * 81 + d.column - 1), d.text.size(), d.text);
+    std::vector<std::string> faults = igs_test::written_file_faults(damaged);
+    EXPECT_NE(std::find(faults.begin(), faults.end(), d.fault), faults.end())
+        << d.fault << "\nfound:\n"
+        << ::testing::PrintToString(faults);
+  }
+  // Lines of the wrong length, a missing line end, and a file without its T line.
+  std::string shortened = small_file;
+  shortened.erase(81 * 4 + 10, 1);
+  EXPECT_EQ(igs_test::written_file_faults(shortened),
+            std::vector<std::string>{"line 5: 79 columns"});
+  EXPECT_EQ(igs_test::written_file_faults(small_file.substr(0, small_file.size() - 1)),
+            std::vector<std::string>{"line 14: no line end"});
+  EXPECT_EQ(igs_test::written_file_faults(small_file.substr(0, small_file.size() - 81)),
+            std::vector<std::string>{"line 13: no T line"});
 }
 
 } // namespace
