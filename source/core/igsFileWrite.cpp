@@ -10,20 +10,29 @@
 #include "support/coResource.h"
 #include "support/kvuTempFile.h"
 
+#include <cstdint>
 #include <cstdio>
+#include <filesystem>
 #include <fstream>
+#include <memory>
 #include <new>
 
 namespace {
+
+// The chunk in which the temporary file is written and read: large, so that the lines pass
+// through few system calls.
+constexpr std::streamsize chunk_size = 1 << 16;
 
 // The temporary file of the parameter data. It is made empty under a name that nothing else
 // uses and removed with this object, whichever way the writing ends.
 class igsParameterFile {
  public:
   explicit igsParameterFile(utString const& directory)
-      : m_name(kvu_make_temp_file_name(directory)) {
-    if (!m_name.is_null())
-      m_stream.open(m_name.c_str(), std::ios::out | std::ios::binary | std::ios::trunc);
+      : m_name(kvu_make_temp_file_name(directory)), m_buffer(new (std::nothrow) char[chunk_size]) {
+    if (m_name.is_null()) return;
+    // Without a buffer of its own the stream keeps its default one.
+    if (m_buffer) m_stream.rdbuf()->pubsetbuf(m_buffer.get(), chunk_size);
+    m_stream.open(m_name.c_str(), std::ios::out | std::ios::binary | std::ios::trunc);
   }
   ~igsParameterFile() {
     m_stream.close();
@@ -43,7 +52,8 @@ class igsParameterFile {
 
  private:
   utString m_name;
-  std::ofstream m_stream;
+  std::unique_ptr<char[]> m_buffer;
+  std::ofstream m_stream; // goes before its buffer
 };
 
 // Marks the stream bad, unless it was told to throw for that: nothing leaves the library.
@@ -121,18 +131,24 @@ int igsFile::write_directory_entries(igsOutStream& out) {
 }
 
 int igsFile::write_parameter_data_section(std::ostream& stream, char const* temp_name) {
+  std::error_code error;
+  std::uintmax_t const size = std::filesystem::file_size(temp_name, error);
   std::ifstream parameters(temp_name, std::ios::in | std::ios::binary);
-  if (!parameters.is_open() || stream.fail()) return 0;
+  if (error || !parameters.is_open() || stream.fail()) return 0;
+  // A large chunk if it can be had; a small one does the same.
+  std::unique_ptr<char[]> large(new (std::nothrow) char[chunk_size]);
+  char small[1024];
+  char* chunk = large ? large.get() : small;
+  std::streamsize const chunk_length = large ? chunk_size : std::streamsize(sizeof small);
+  // The lines are finished: they go over as they are, straight from one stream buffer to the
+  // other. A read that ends early fails the copy, as a write that does.
+  std::streambuf* source = parameters.rdbuf();
   std::streambuf* target = stream.rdbuf();
-  // The lines are finished: they go over as they are, in chunks.
-  char chunk[1024];
-  while (parameters) {
-    parameters.read(chunk, sizeof chunk);
-    std::streamsize n = parameters.gcount();
-    if (n > 0 && (!target || target->sputn(chunk, n) != n)) {
+  std::uintmax_t copied = 0;
+  for (std::streamsize n; (n = source->sgetn(chunk, chunk_length)) > 0; copied += std::uintmax_t(n))
+    if (!target || target->sputn(chunk, n) != n) {
       mark_bad(stream);
       return 0;
     }
-  }
-  return !parameters.bad() && !stream.fail();
+  return copied == size && !stream.fail();
 }
