@@ -1,5 +1,6 @@
 // Checking a whole file, and cleaning it: check, repair, and at the caller's wish the removal
 // of what stays bad.
+#include "core/igsCurrentFileScope.h"
 #include "core/igsFile.h"
 #include "core/igsObject.h"
 #include "core/igsObjectSystem.h"

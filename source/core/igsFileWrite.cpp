@@ -1,10 +1,10 @@
 // Writing a whole file. The Directory section stands before the Parameter section but holds
 // each entity's parameter pointer and line count, so the parameter data go first to a
 // temporary file, whose finished lines are then copied behind the D lines.
+#include "core/igsCurrentFileScope.h"
 #include "core/igsFile.h"
 #include "core/igsFileErrors.h"
 #include "core/igsObject.h"
-#include "core/igsObjectSystem.h"
 #include "output/igsOutStream.h"
 #include "sections/igsDirectoryEntry.h"
 #include "support/coResource.h"
@@ -63,11 +63,6 @@ void mark_bad(std::ostream& stream) {
 }
 
 } // namespace
-
-void igsObject::write(igsOutStream& out) {
-  out.write_integer(static_cast<int>(directory_entry().entity_type()));
-  write_pd_data(out);
-}
 
 int igsFile::write(std::ostream& stream, utOstream& messages) {
   igsCurrentFileScope current(*this);

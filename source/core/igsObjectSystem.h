@@ -61,19 +61,3 @@ class igsObjectSystem {
   static inline int m_num_files = 0;
   static inline int m_num_systems = 0;
 };
-
-// Makes a file current for the span of a call, so that the walk's flags, the errors and the
-// DE numbers bound on the way all concern that file, and then restores the file that was
-// current before.
-class igsCurrentFileScope {
- public:
-  explicit igsCurrentFileScope(igsFile const& file) : m_previous(&igsObjectSystem::file()) {
-    igsObjectSystem::set_current_file(file);
-  }
-  ~igsCurrentFileScope() { igsObjectSystem::set_current_file(*m_previous); }
-  igsCurrentFileScope(igsCurrentFileScope const&) = delete;
-  igsCurrentFileScope& operator=(igsCurrentFileScope const&) = delete;
-
- private:
-  igsFile const* m_previous;
-};
