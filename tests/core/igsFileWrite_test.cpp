@@ -3,6 +3,7 @@
 // the destination, the parametric precision and the limits of the line number fields. Every
 // written file passes the structural check.
 #include "core/objectTestSupport.h"
+#include "core/roundTripCheck.h"
 #include "core/writtenFileCheck.h"
 
 #include "core/igsFileErrors.h"
@@ -220,6 +221,11 @@ TEST_F(WriteTest, ASmallFileIsWrittenExactly) {
             std::vector<int>({1, 3, 6, 3}));
   // Writing is repeatable: nothing changed, so nothing changes in the text.
   EXPECT_EQ(written(), small_file);
+  // And the text read and written again is the same text.
+  int read = 0;
+  std::unique_ptr<igsFile> again = igs_test::read_text(small_file, read);
+  EXPECT_EQ(read, 1);
+  EXPECT_EQ(igs_test::written_text(*again), small_file);
 }
 
 TEST_F(WriteTest, AnEmptyFileHasNoDirectoryOrParameterLines) {
@@ -320,6 +326,33 @@ TEST_F(WriteTest, ALongRecordRunsOverManyLinesWithItsCountInTheDirectoryEntry) {
   EXPECT_EQ(de_field(text, 5, 1, 9), 2 + *count);
   EXPECT_EQ(record(text, 3), expected + ";");
   EXPECT_EQ(record(text, 5), "116,9.,9.,9.,0;");
+}
+
+TEST_F(WriteTest, OurOwnFilesReadBackTheSameAndWriteTheSameAgain) {
+  igs116* p = point(giPoint3(1.0 / 3.0, -2.5e-7, 6.02214076e23));
+  p->directory_entry().set_level(igsLevel(12));
+  p->directory_entry().set_entity_label("POINT");
+  igs110* l = line(giPoint3(0.1, 0.2, 0.3), giPoint3(-1e300, 4.0, 1e-300));
+  l->directory_entry().set_colour(igsColour(igsCyan));
+  l->directory_entry().set_status_flags(igsStatusFlags(1, 2, 5, 2));
+  delete line(giPoint3(0.0, 0.0, 0.0), giPoint3(1.0, 0.0, 0.0));
+  igs100* a = arc(-2.0, giPoint2(1.0, 1.0), giPoint2(2.0, 1.0), giPoint2(1.0, 2.0));
+  a->directory_entry().set_view(igsObjectPtr(p));
+  a->directory_entry().set_label_display(igsObjectPtr(l));
+  a->directory_entry().set_line_font(igsLineFont(igsDotted));
+  std::vector<giPoint3> points;
+  for (int i = 0; i < 30; ++i) points.emplace_back(i / 7.0, i * 1e5, -i / 3.0);
+  tuples<igsPolyline>(igsPolylineXYCommonZ, points, 0.75);
+  tuples<igsPolyline>(igsPolylineXYZ, points);
+  tuples<igsPolyline>(igsPolylineXYZIJK, points);
+  tuples<igsPointset>(igsPointsetXYCommonZ, points, -0.75);
+  tuples<igsPointset>(igsPointsetXYZ, points);
+  tuples<igsPointset>(igsPointsetXYZIJK, points);
+  auto* closed = new igsSimpleClosedPlanarCurve;
+  closed->set_z_level(3.0);
+  for (int i = 0; i < 5; ++i) closed->set_point(i, giPoint2(i % 4 == 0 ? 0.0 : i, i / 2.0));
+  EXPECT_EQ(igs_test::round_trip_faults(*file, "own file"), std::vector<std::string>{});
+  EXPECT_EQ(file->num_entities(), 10);
 }
 
 // A node whose record moves the back pointer past its seven columns, as the record after the
