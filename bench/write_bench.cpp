@@ -8,11 +8,10 @@
 #include "entities/curves/igs110.h"
 #include "entities/curves/igs116.h"
 
+#include "benchSupport.h"
+
 #include <benchmark/benchmark.h>
 
-#include <charconv>
-#include <chrono>
-#include <cstring>
 #include <memory>
 #include <ostream>
 #include <random>
@@ -24,18 +23,6 @@ namespace {
 
 // Entities of each kind; about 400 bytes of file text each on average.
 constexpr int entities_per_kind = 60000;
-
-// Writes into a store that is made once, with no copy and no growth.
-class MemoryOut : public std::streambuf {
- public:
-  explicit MemoryOut(size_t size) : m_store(size, '\0') { rewind(); }
-  void rewind() { setp(m_store.data(), m_store.data() + m_store.size()); }
-  size_t used() const { return static_cast<size_t>(pptr() - pbase()); }
-  char* data() { return m_store.data(); }
-
- private:
-  std::string m_store;
-};
 
 // The file to write, and every real it holds in the order they are written.
 struct Model {
@@ -76,67 +63,31 @@ Model const& model() {
   return m;
 }
 
+// The size of the file that the last write gave.
+size_t file_size = 0;
+
 size_t ours(MemoryOut& buffer) {
   buffer.rewind();
   std::ostream out(&buffer);
   std::ostringstream notes;
   utOstream messages(notes);
-  if (!model().file->write(out, messages)) return 0;
-  return buffer.used();
+  file_size = model().file->write(out, messages) ? buffer.used() : 0;
+  return file_size;
 }
 
-// The least that laying the reals into lines takes: the text of each value from
-// std::to_chars, a delimiter behind it, a new line where the next would not fit, and the
-// tail of each line.
-size_t floor_lines(MemoryOut& buffer) {
-  char* out = buffer.data();
-  char line[81];
-  std::memset(line, ' ', 80);
-  line[80] = '\n';
-  int column = 0;
-  int number = 0;
-  auto finish = [&] {
-    std::to_chars(line + 73, line + 80, ++number);
-    line[72] = 'P';
-    std::memcpy(out, line, 81);
-    out += 81;
-    std::memset(line, ' ', 80);
-    column = 0;
-  };
-  for (double x : model().reals) {
-    char text[32];
-    auto printed = std::to_chars(text, text + sizeof text, x, std::chars_format::general, 15);
-    int n = static_cast<int>(printed.ptr - text);
-    if (column + n + 1 > 64) finish();
-    std::memcpy(line + column, text, static_cast<size_t>(n));
-    line[column + n] = ',';
-    column += n + 1;
-  }
-  if (column) finish();
-  return static_cast<size_t>(out - buffer.data());
+// The floor: the same reals laid into Parameter lines, in records of the size of an entity's
+// on average.
+size_t floor_run(MemoryOut& buffer) {
+  return floor_lines(buffer, model().reals, 5, to_chars_text);
 }
-
-using Clock = std::chrono::steady_clock;
 
 void BM_WriteFile(benchmark::State& state) {
   model();
   MemoryOut buffer(size_t(entities_per_kind) * 3 * 600);
-  double seconds[2] = {};
-  size_t bytes[2] = {};
-  size_t (*const runs[2])(MemoryOut&) = {ours, floor_lines};
-  for (auto _ : state) {
-    for (int r = 0; r < 2; ++r) {
-      auto t0 = Clock::now();
-      bytes[r] = runs[r](buffer);
-      benchmark::DoNotOptimize(buffer.data());
-      seconds[r] += std::chrono::duration<double>(Clock::now() - t0).count();
-    }
-  }
-  if (bytes[0] == 0) state.SkipWithError("the write failed");
-  double n = static_cast<double>(state.iterations());
-  double mbs[2];
-  for (int r = 0; r < 2; ++r) mbs[r] = static_cast<double>(bytes[r]) * n / 1e6 / seconds[r];
-  state.counters["file_MB"] = static_cast<double>(bytes[0]) / 1e6;
+  size_t (*const runs[2])(MemoryOut&) = {ours, floor_run};
+  std::array<double, 2> mbs = megabytes_per_second(state, buffer, runs);
+  if (mbs[0] == 0.0) state.SkipWithError("the write failed");
+  state.counters["file_MB"] = static_cast<double>(file_size) / 1e6;
   state.counters["MB/s"] = mbs[0];
   state.counters["to_chars_MB/s"] = mbs[1];
   state.counters["ratio"] = mbs[0] / mbs[1];
