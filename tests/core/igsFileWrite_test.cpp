@@ -13,6 +13,7 @@
 #include "entities/curves/igsPointset.h"
 #include "entities/curves/igsPolyline.h"
 #include "entities/curves/igsSimpleClosedPlanarCurve.h"
+#include "output/outputTestSupport.h"
 #include "support/kvuTempFile.h"
 
 #include <algorithm>
@@ -43,44 +44,8 @@ void set_fixed_global_section(igsFile& file) {
   file.set_global_section(global);
 }
 
-// A streambuf that takes `limit` bytes and refuses the rest, as a disk that fills up.
-class LimitedBuffer : public std::streambuf {
- public:
-  explicit LimitedBuffer(size_t limit) : m_limit(limit) {}
-  std::string const& text() const { return m_text; }
-
- protected:
-  int_type overflow(int_type c) override {
-    if (traits_type::eq_int_type(c, traits_type::eof())) return traits_type::not_eof(c);
-    if (m_text.size() >= m_limit) return traits_type::eof();
-    m_text += traits_type::to_char_type(c);
-    return c;
-  }
-  std::streamsize xsputn(char const* s, std::streamsize n) override {
-    size_t room = m_limit - m_text.size();
-    size_t taken = static_cast<size_t>(n) < room ? static_cast<size_t>(n) : room;
-    m_text.append(s, taken);
-    return static_cast<std::streamsize>(taken);
-  }
-
- private:
-  size_t m_limit;
-  std::string m_text;
-};
-
-// Sets a resource key for the span of a test.
-template <class T> class KeyScope {
- public:
-  KeyScope(coResourceKey<T> const& key, T value) : m_key(key) {
-    kvn_resource_table_inquire()->set(key, value);
-  }
-  ~KeyScope() { kvn_resource_table_inquire()->reset(m_key); }
-  KeyScope(KeyScope const&) = delete;
-  KeyScope& operator=(KeyScope const&) = delete;
-
- private:
-  coResourceKey<T> const& m_key;
-};
+using igs_output_test::FailingBuf;
+using igs_output_test::KeyOverride;
 
 class WriteTest : public FileTest {
  protected:
@@ -380,7 +345,7 @@ TEST_F(WriteTest, NoTemporaryFileStaysWhateverHappensToTheDestination) {
   for (size_t limit : {size_t(0), size_t(40), 2 * line + 5, d_start + 100, p_start + 10,
                        full.size() - line / 2, full.size() - 1}) {
     for (bool throwing : {false, true}) {
-      LimitedBuffer buffer(limit);
+      FailingBuf buffer(limit);
       std::ostream stream(&buffer);
       if (throwing) stream.exceptions(std::ios::badbit | std::ios::failbit);
       std::ostringstream notes;
@@ -422,8 +387,8 @@ TEST_F(WriteTest, WithoutATemporaryFileNothingButStartAndGlobalIsWritten) {
 }
 
 TEST_F(WriteTest, ParametricEntitiesAreWrittenWithTheParametricPrecision) {
-  KeyScope<int> parametric(kvnOptDoubleParametricPrecision, 4);
-  KeyScope<int> geometric(kvnOptDoubleGeometricPrecision, 9);
+  KeyOverride parametric(kvnOptDoubleParametricPrecision, 4);
+  KeyOverride geometric(kvnOptDoubleGeometricPrecision, 9);
   giPoint3 const start(1.23456789012, -0.000123456789, 98765.4321);
   giPoint3 const end(0.5, 2.0, 1.0 / 3.0);
   for (int use : {igsUseGeometry, igsUse2DParametric, igsUseConstructional}) {
