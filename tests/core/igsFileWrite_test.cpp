@@ -1,7 +1,7 @@
 // Writing whole files made by our own code: the exact text of a small one, the renumbering
-// after deletions, the records of the curve entities, the temporary file whatever happens to
-// the destination, the parametric precision and the limits of the line number fields. Every
-// written file passes the structural check.
+// after deletions, the records of the curve entities, the round trip through reading, the
+// temporary file whatever happens to the destination, the parametric precision and a back
+// pointer beyond its columns. Every written file passes the structural check.
 #include "core/objectTestSupport.h"
 #include "core/roundTripCheck.h"
 #include "core/writtenFileCheck.h"
@@ -238,7 +238,7 @@ TEST_F(WriteTest, DeletedEntitiesLeaveNoGapAndReferencesFollowTheirTargets) {
   EXPECT_EQ(circle->num_logged_errors(), 1);
 }
 
-TEST_F(WriteTest, CopiousDataRecordsFollowTheirFlagAndForm) {
+TEST_F(WriteTest, CopiousDataRecordsFollowTheirFlagAndFormAndRunOverLines) {
   std::vector<giPoint3> const three = {giPoint3(0.0, 0.0, 2.0), giPoint3(1.0, 0.0, 2.0),
                                        giPoint3(1.0, 1.5, 2.0)};
   tuples<igsPolyline>(igsPolylineXYCommonZ, three, 2.0);
@@ -250,6 +250,16 @@ TEST_F(WriteTest, CopiousDataRecordsFollowTheirFlagAndForm) {
   auto* closed = new igsSimpleClosedPlanarCurve;
   closed->set_z_level(0.5);
   for (int i = 0; i < 4; ++i) closed->set_point(i, giPoint2(i % 3, i / 2));
+  // A long record, and a point behind it whose record starts where the long one ends.
+  std::vector<giPoint3> points;
+  std::string long_record = "106,2,200";
+  for (int i = 0; i < 200; ++i) {
+    points.emplace_back(i, i + 0.5, 1000 + i);
+    long_record +=
+        "," + std::to_string(i) + ".," + std::to_string(i) + ".5," + std::to_string(1000 + i) + ".";
+  }
+  tuples<igsPolyline>(igsPolylineXYZ, points);
+  point(giPoint3(9.0, 9.0, 9.0));
   std::string text = written();
 
   struct Expected {
@@ -264,33 +274,21 @@ TEST_F(WriteTest, CopiousDataRecordsFollowTheirFlagAndForm) {
       {2, "106,2,1,1.,1.5,2.;"},
       {3, "106,3,2,1.,0.,2.,0.,0.,1.,1.,1.5,2.,0.,0.,1.;"},
       {63, "106,1,4,0.5,0.,0.,1.,0.,2.,1.,0.,1.;"},
+      {12, nullptr},
+      {0, "116,9.,9.,9.,0;"},
   };
   for (size_t i = 0; i < expected.size(); ++i) {
     int de = static_cast<int>(2 * i + 1);
     EXPECT_EQ(de_field(text, de, 2, 33), expected[i].form) << "DE " << de;
-    EXPECT_EQ(record(text, de), expected[i].record) << "DE " << de;
+    EXPECT_EQ(record(text, de), expected[i].record ? expected[i].record : long_record + ";")
+        << "DE " << de;
   }
-}
-
-TEST_F(WriteTest, ALongRecordRunsOverManyLinesWithItsCountInTheDirectoryEntry) {
-  std::vector<giPoint3> points;
-  std::string expected = "106,2,200";
-  for (int i = 0; i < 200; ++i) {
-    points.emplace_back(i, i + 0.5, 1000 + i);
-    expected +=
-        "," + std::to_string(i) + ".," + std::to_string(i) + ".5," + std::to_string(1000 + i) + ".";
-  }
-  point(giPoint3(0.0, 0.0, 0.0));
-  tuples<igsPolyline>(igsPolylineXYZ, points);
-  point(giPoint3(9.0, 9.0, 9.0));
-  std::string text = written();
-  std::optional<int> count = de_field(text, 3, 2, 25);
+  // Parameter pointer in columns 9-16 of the first line, line count in 25-32 of the second.
+  std::optional<int> count = de_field(text, 15, 2, 25);
   ASSERT_TRUE(count);
   EXPECT_GT(*count, 20);
-  EXPECT_EQ(de_field(text, 3, 1, 9), 2);
-  EXPECT_EQ(de_field(text, 5, 1, 9), 2 + *count);
-  EXPECT_EQ(record(text, 3), expected + ";");
-  EXPECT_EQ(record(text, 5), "116,9.,9.,9.,0;");
+  EXPECT_EQ(de_field(text, 15, 1, 9), 8);
+  EXPECT_EQ(de_field(text, 17, 1, 9), 8 + *count);
 }
 
 TEST_F(WriteTest, OurOwnFilesReadBackTheSameAndWriteTheSameAgain) {
