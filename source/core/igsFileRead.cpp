@@ -55,7 +55,7 @@ int igsFile::read_directory_section(igsInStream& in) {
 int igsFile::read_directory_entry(igsInStream& in) {
   if (igs_stream_section(in) != igsSectionDirectory) return 0;
   igsDirectoryFields fields;
-  igsIOErrorcoDynArr codes;
+  unsigned codes = 0;
   int sound = fields.read(in, &codes);
   int line = fields.line;
   int type = fields.entity_type;
@@ -79,10 +79,10 @@ int igsFile::read_directory_entry(igsInStream& in) {
       type = igsEntityTypeUnknown;
     }
   }
-  if (igs_has_io_error(codes, igsIONullCharacter))
+  if (codes & igsIOCodeList::bit(igsIONullCharacter))
     tag_error(new (std::nothrow) igsFileDENullCharacters(line));
-  if (igs_has_io_error(codes, igsIOLineSequence)) m_invalid_line_numbers = 1;
-  if (igs_has_io_error(codes, igsIOBlankLine)) m_blank_line = 1;
+  if (codes & igsIOCodeList::bit(igsIOLineSequence)) m_invalid_line_numbers = 1;
+  if (codes & igsIOCodeList::bit(igsIOBlankLine)) m_blank_line = 1;
   // The entity takes the next slot: its DE number comes from its place, not from the line.
   if (igsObject* object = igsObject::create(static_cast<igsEntityType>(type), form)) {
     fields.form_number = form;
@@ -113,13 +113,16 @@ int igsFile::read_parameter_data_section(igsInStream& in) {
       tag_error(new (std::nothrow) igsFileIncorrectStartOfPD(backpointer, line, start_in_de));
     int bad_line_numbers = 0;
     int blank_lines = 0;
-    current->read(in, bad_line_numbers, blank_lines);
+    int sound = current->read(in, bad_line_numbers, blank_lines);
     if (bad_line_numbers) m_invalid_line_numbers = 1;
     if (blank_lines) m_blank_line = 1;
     if (!in.reset()) {
       // What was read into the entity from a line that failed this way is not trustworthy.
-      if (current && (in.error_type(igsIOBadBackpointer) || in.error_type(igsIOBadLineNumber) ||
-                      in.error_type(igsIOBadSectionLetter)))
+      // A line that fails behind a record read to its end (a T line without its number) took
+      // nothing from it.
+      if (current && !sound &&
+          (in.error_type(igsIOBadBackpointer) || in.error_type(igsIOBadLineNumber) ||
+           in.error_type(igsIOBadSectionLetter)))
         delete current();
       break;
     }

@@ -76,8 +76,11 @@ class igsObject {
   // manager's visited flag) and raises the errors of a NaN and of NUL characters in it; its
   // lines out of sequence set bad_line_numbers, and blank lines among them set blank_lines.
   // Every code of the record is collected here, so none reaches the next record. The stream
-  // ends on the first line of the next record, whatever the entity left unread.
-  void read(igsInStream& in, int& bad_line_numbers, int& blank_lines);
+  // ends on the first line of the next record, whatever the entity left unread. Returns 0
+  // when the stream failed for good while the record was being read, so that what was read
+  // into the entity is not to be trusted; 1 otherwise, also when the line behind a record
+  // read to its end fails.
+  int read(igsInStream& in, int& bad_line_numbers, int& blank_lines);
   // Writes the DE's entity type as a delimited integer, then the parameters.
   void write(igsOutStream& out);
   // Reads the type number that opens the record: 1 when it is the DE's type or the entity

@@ -5,7 +5,7 @@
 #include "output/igsOutStream.h"
 #include "sections/igsDirectoryEntry.h"
 
-void igsObject::read(igsInStream& in, int& bad_line_numbers, int& blank_lines) {
+int igsObject::read(igsInStream& in, int& bad_line_numbers, int& blank_lines) {
   int read_through = read_pd_entity_type(in) && read_pd_data(in);
   // The decoders keep their codes until collected, so this one collection holds every code
   // of the record, and the record leaves none behind for the next one.
@@ -16,7 +16,9 @@ void igsObject::read(igsInStream& in, int& bad_line_numbers, int& blank_lines) {
     m_manager->set_visited(1);
   }
   if (in.error_type(igsIOBlankLine)) blank_lines = 1;
+  int sound = !in.fatal_error();
   if (in.reset()) skip_this_entity(in);
+  return sound;
 }
 
 void igsObject::write(igsOutStream& out) {

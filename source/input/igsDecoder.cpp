@@ -6,6 +6,7 @@
 
 #include <cmath>
 #include <cstring>
+#include <string_view>
 
 namespace {
 constexpr char data_end_mark = '\n';
@@ -118,8 +119,18 @@ void igsDoubleDecoder::active_decode() {
 
 // --- igsStrDecoder -----------------------------------------------------------------------
 
+utString igsStrDecoder::recent_or_new(char const* text) {
+  std::string_view view(text);
+  for (utString const& recent : m_recent)
+    if (!recent.is_null() && recent.view() == view) return recent;
+  utString made = decode_string(text);
+  m_recent[m_oldest] = made;
+  m_oldest = 1 - m_oldest;
+  return made;
+}
+
 int igsStrDecoder::decode_fast(char const* text) {
-  m_value = decode_string(text);
+  m_value = recent_or_new(text);
   stop();
   check_for_default(text, m_value.length());
   return m_value.length();
@@ -133,7 +144,7 @@ void igsStrDecoder::string_character(char c) {
 }
 
 void igsStrDecoder::active_decode() {
-  if (terminate_text()) m_value = decode_string(buffer());
+  if (terminate_text()) m_value = recent_or_new(buffer());
   stop();
 }
 

@@ -154,7 +154,9 @@ class igsDoubleDecoder final : public igsValueDecoder<double> {
   void active_decode() override;
 };
 
-// Fixed-width text fields: the columns as they stand, blanks included.
+// Fixed-width text fields: the columns as they stand, blanks included. The Directory Entry
+// reads two of them per entity, nearly always the same texts (blanks), so the last two texts
+// made are kept and shared again when a field repeats one of them.
 class igsStrDecoder final : public igsValueDecoder<utString> {
  public:
   igsStrDecoder() : igsValueDecoder(1, storing_string_state) {}
@@ -163,6 +165,11 @@ class igsStrDecoder final : public igsValueDecoder<utString> {
  protected:
   void string_character(char c) override;
   void active_decode() override;
+
+ private:
+  utString recent_or_new(char const* text);
+  utString m_recent[2];
+  int m_oldest = 0;
 };
 
 // Hollerith strings, "nH" and n characters. There is no fast way. A body shorter than declared

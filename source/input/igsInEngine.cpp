@@ -24,6 +24,9 @@ void igsInEngine::slow_decode(igsDecoder& decoder) {
 void igsInEngine::fixed_slow_decode(igsDecoder& decoder, unsigned int width) {
   char const* p = (*this)();
   unsigned int i = 0;
+  // Every decoder starts the slow way by passing over blanks, so leading ones (all of a
+  // blank field) need not be handed over one by one.
+  while (i < width && p[i] == ' ') ++i;
   for (; i < width && p[i]; ++i) {
     int cont = 0;
     int check = 0;
@@ -34,8 +37,17 @@ void igsInEngine::fixed_slow_decode(igsDecoder& decoder, unsigned int width) {
 }
 
 void igsInEngine::collect_errors(igsIOErrorcoDynArr& errors) {
+  append_errors(errors);
+  stamp_errors(errors);
+}
+
+void igsInEngine::append_errors(igsIOErrorcoDynArr& errors) {
   igsInBuffer::collect_errors(errors);
   if (m_decoder) m_decoder->collect_errors(errors);
+}
+
+void igsInEngine::stamp_errors(igsIOErrorcoDynArr& errors) const {
+  if (errors.empty()) return;
   igsFileSection section = igsSectionNone;
   int line = 0;
   int column = 0;

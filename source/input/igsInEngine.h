@@ -29,6 +29,11 @@ class igsInEngine : public igsInBuffer {
   void set_record_delimiter(char c) { m_record_delimiter = c; }
 
  protected:
+  // The two halves of collect_errors: the codes appended, and the list stamped with where
+  // the cursor stands.
+  void append_errors(igsIOErrorcoDynArr& errors);
+  void stamp_errors(igsIOErrorcoDynArr& errors) const;
+
   int delimiter(char c, int& is_record) const {
     is_record = c == m_record_delimiter;
     return is_record || c == m_param_delimiter;

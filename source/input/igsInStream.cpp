@@ -7,14 +7,16 @@ igsInStream::igsInStream(std::istream& stream) : igsInEngine(stream) {
 igsInStream::~igsInStream() = default;
 
 // The integer, string, Hollerith and real decoders in turn: codes of the filler and the
-// checker come with the first, and a fatal one again with each.
+// checker come with the first, and a fatal one again with each. All stand where the cursor
+// stands, so the list is stamped once.
 void igsInStream::collect_errors() {
   m_errors.shrink(0);
   igsDecoder* decoders[] = {&m_int, &m_string, &m_holerith, &m_real};
   for (igsDecoder* decoder : decoders) {
     configure_for_decode(decoder);
-    igsInEngine::collect_errors(m_errors);
+    append_errors(m_errors);
   }
+  stamp_errors(m_errors);
   m_collected = 1;
 }
 

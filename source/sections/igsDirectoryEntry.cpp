@@ -74,13 +74,16 @@ constexpr int label_field_width = 24; // the reserved columns and the label
 
 } // namespace
 
-int igsDirectoryFields::read(igsInStream& in, igsIOErrorcoDynArr* line_codes) {
+int igsDirectoryFields::read(igsInStream& in, unsigned* line_codes) {
   igsFileSection section;
   int column;
   in.position(section, line, column);
   Column const* last = std::end(layout) - 1;
   for (Column const& c : layout) {
-    if (&c == last && line_codes) line_codes->become(utCopyTag, in.errors());
+    if (&c == last && line_codes) {
+      *line_codes = 0;
+      for (igsIOError const& e : in.errors()) *line_codes |= igsIOCodeList::bit(e.error_type());
+    }
     if (c.number)
       in.read_integer(static_cast<unsigned>(c.width), this->*c.number);
     else

@@ -255,6 +255,16 @@ TEST_F(ReadTest, ALineThatFailsForGoodDropsTheEntityBeingRead) {
     EXPECT_FALSE(entity<igsObject>(damaged));
     ASSERT_TRUE(entity<igs116>(1));
   }
+
+  // A T line whose number is missing fails for good, but behind the last record, which was
+  // read to its end and stays: the file is not whole, its entities are.
+  file = std::make_unique<igsFile>();
+  lines.back().replace(73, 7, "       ");
+  EXPECT_EQ(read(lines), 0);
+  EXPECT_EQ(errors(), Lines{});
+  EXPECT_EQ(file->num_entities(), 3);
+  ASSERT_TRUE(entity<igs116>(5));
+  EXPECT_EQ(entity<igs116>(5)->point(), giPoint3(3, 3, 3));
 }
 
 TEST_F(ReadTest, BlankLinesAndLinesOutOfSequenceEachGiveOneErrorOfTheFile) {
