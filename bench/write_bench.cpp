@@ -92,6 +92,6 @@ void BM_WriteFile(benchmark::State& state) {
   state.counters["to_chars_MB/s"] = mbs[1];
   state.counters["ratio"] = mbs[0] / mbs[1];
 }
-BENCHMARK(BM_WriteFile)->Unit(benchmark::kMillisecond)->Iterations(3);
+BENCHMARK(BM_WriteFile)->Unit(benchmark::kMillisecond)->Iterations(5);
 
 } // namespace
