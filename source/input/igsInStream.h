@@ -36,6 +36,12 @@ class igsInStream : public igsInEngine {
     m_collected = 0;
     igsInEngine::skip_line();
   }
+  // Moves over a field of the given width that the caller has read from the text at the
+  // cursor itself; as after any read, the codes are collected anew when next asked for.
+  void pass_over(unsigned int width) {
+    m_collected = 0;
+    *this += width;
+  }
 
  protected:
   void collect_errors();

@@ -3,10 +3,14 @@
 #include "core/igsInfoDB.h"
 #include "core/igsObject.h"
 #include "input/igsInStream.h"
+#include "input/igsNumberText.h"
 #include "output/igsOutStream.h"
 #include "sections/igsEntityKind.h"
 #include "support/utOstream.h"
 
+#include <bit>
+#include <cstdint>
+#include <cstring>
 #include <iterator>
 
 // The two D lines
@@ -72,6 +76,46 @@ static_assert(lines_are_full(), "the D line layout fills two lines of 72 columns
 
 constexpr int label_field_width = 24; // the reserved columns and the label
 
+// The blanks at the start of a field; eight columns are looked at in one go.
+int leading_blanks(char const* text, int width) {
+  if constexpr (std::endian::native == std::endian::little) {
+    if (width == 8) {
+      std::uint64_t word = 0;
+      std::memcpy(&word, text, sizeof word);
+      std::uint64_t other = word ^ 0x2020202020202020u; // zero bytes where blanks stand
+      return other ? std::countr_zero(other) / 8 : 8;
+    }
+  }
+  int i = 0;
+  while (i < width && text[i] == ' ') ++i;
+  return i;
+}
+
+// A number field in its usual form, read straight from the line: blanks, then an optional
+// sign and digits up to its last column, or blanks alone. Both give what the fixed-width read
+// gives them (0 for blanks), without its machinery; 0 is returned for any other field, and
+// for one that does not lie within the data of an unstopped D line.
+int read_plain_number(igsInStream& in, int width, int& value) {
+  igsFileSection section;
+  int line = 0;
+  int column = 0;
+  in.position(section, line, column);
+  if (in.frozen() || section != igsSectionDirectory || column + width > in.capacity() - 8) return 0;
+  char const* text = in();
+  int i = leading_blanks(text, width);
+  int number = 0; // 8 columns hold no more than 8 digits
+  int negative = 0;
+  if (i < width) {
+    if (text[i] == '+' || text[i] == '-') negative = text[i++] == '-';
+    int first_digit = i;
+    for (; i < width && igs_is_digit(text[i]); ++i) number = number * 10 + (text[i] - '0');
+    if (i < width || i == first_digit) return 0;
+  }
+  value = negative ? -number : number;
+  in.pass_over(static_cast<unsigned>(width));
+  return 1;
+}
+
 } // namespace
 
 int igsDirectoryFields::read(igsInStream& in, unsigned* line_codes) {
@@ -84,10 +128,10 @@ int igsDirectoryFields::read(igsInStream& in, unsigned* line_codes) {
       *line_codes = 0;
       for (igsIOError const& e : in.errors()) *line_codes |= igsIOCodeList::bit(e.error_type());
     }
-    if (c.number)
-      in.read_integer(static_cast<unsigned>(c.width), this->*c.number);
-    else
+    if (!c.number)
       in.read_string(static_cast<unsigned>(c.width), this->*c.text);
+    else if (!line_codes || !read_plain_number(in, c.width, this->*c.number))
+      in.read_integer(static_cast<unsigned>(c.width), this->*c.number);
   }
   if (!line_codes) in.errors();
   return !in.fatal_error();
@@ -214,7 +258,7 @@ void igsDirectoryEntry::set_fields(igsDirectoryFields const& f) {
   m_colour = igsColour(f.colour);
   m_parameter_line_count = f.parameter_line_count;
   m_form_number = f.form_number;
-  m_entity_label = f.entity_label.is_null() ? utString("") : f.entity_label;
+  m_entity_label = f.entity_label.is_null() ? no_label() : f.entity_label;
   m_entity_subscript = f.entity_subscript;
 }
 
@@ -248,6 +292,11 @@ igsDirectoryFields igsDirectoryEntry::fields() const {
   f.entity_label = m_entity_label;
   f.entity_subscript = m_entity_subscript;
   return f;
+}
+
+utString const& igsDirectoryEntry::no_label() {
+  static utString const empty("");
+  return empty;
 }
 
 igsEntityType igsDirectoryEntry::get_entity_type(int type) {

@@ -136,6 +136,8 @@ class igsDirectoryEntry {
     m_form_number = form;
   }
   void set_start_of_parameter_data(int line) { m_start_of_parameter_data = line; }
+  // The empty label that every new entry starts with, one text shared by all.
+  static utString const& no_label();
   void set_parameter_line_count(int count) { m_parameter_line_count = count; }
 
   int m_structure = 0;
@@ -148,7 +150,7 @@ class igsDirectoryEntry {
   int m_line_weight_number = 0;
   igsColour m_colour;
   int m_form_number = 0;
-  utString m_entity_label{""};
+  utString m_entity_label = no_label();
   int m_entity_subscript = 0;
   igsEntityType m_entity_type = igsEntityTypeUnknown;
   int m_parameter_line_count = 0;

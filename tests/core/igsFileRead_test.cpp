@@ -5,6 +5,8 @@
 #include "entities/curves/igs100.h"
 #include "entities/curves/igs110.h"
 #include "entities/curves/igs116.h"
+#include "input/igsInStream.h"
+#include "sections/igsDirectoryEntry.h"
 
 using namespace igs_read_test;
 
@@ -544,6 +546,55 @@ TEST_F(ReadTest, PrintOfTheFileAndOfEachEntity) {
   EXPECT_EQ(printed(*entity<igs110>(3)), block(text, "@3(110) = {", 4));
   EXPECT_EQ(printed(*entity<igs100>(5)), block(text, "@5(100) = {", 8));
   EXPECT_EQ(block(text, "@5(100) = {", 4), "@5(100) = {\n}\n");
+}
+
+// The file reader takes the number fields of its D lines in their usual form straight from
+// the line; whatever the columns hold, that must give the fields the plain read gives.
+TEST(DirectoryFieldsRead, TheReadersWayGivesWhatThePlainReadGives) {
+  std::string const sound1 =
+      "     110       1       0       0       0       0       0       000000000";
+  std::string const sound2 =
+      "     110       0       0       1       0                               0";
+  auto with = [](std::string line, size_t at, std::string const& text) {
+    return line.replace(at, text.size(), text);
+  };
+  std::vector<std::pair<std::string, std::string>> cases = {
+      {sound1, sound2},
+      {with(sound1, 8, "5       "), sound2}, // left-justified
+      {with(sound1, 8, "      +5"), sound2}, // signs
+      {with(sound1, 16, "      -3"), with(sound2, 64, "-1234567")},
+      {with(sound1, 8, "  -    5"), sound2},                      // a sign apart from its digits
+      {with(sound1, 8, "  1 2   "), sound2},                      // an embedded blank
+      {with(sound1, 8, "   12a  "), sound2},                      // a letter behind the digits
+      {with(sound1, 8, "       -"), sound2},                      // a sign alone
+      {with(sound1, 0, "12345678"), with(sound2, 0, "12345678")}, // every column a digit
+      {with(sound1, 64, " 1 2 3 4"), sound2},                     // status digits, blank or not
+      {with(sound1, 64, "0a0+0-0 "), sound2},
+      {sound1, with(sound2, 40, "reserved colsLABEL  1       ")}, // texts
+      {std::string(72, ' '), std::string(72, ' ')},               // blanks throughout
+      {sound1.substr(0, 30), sound2.substr(0, 45)},               // lines cut short
+  };
+  for (auto const& [first, second] : cases) {
+    SCOPED_TRACE(first + "|" + second);
+    std::string text = igs_input_test::join(
+        {record('D', 1, first), record('D', 2, second), record('D', 3, sound1)});
+    auto read_fields = [&](bool readers_way, int& line, int& column) {
+      std::istringstream bytes(text);
+      igsInStream in(bytes);
+      in.reset();
+      igsDirectoryFields fields;
+      unsigned codes = 0;
+      EXPECT_EQ(fields.read(in, readers_way ? &codes : nullptr), 1);
+      igsFileSection section;
+      in.position(section, line, column);
+      return fields;
+    };
+    int plain_line = 0, plain_column = 0, line = 0, column = 0;
+    igsDirectoryFields plain = read_fields(false, plain_line, plain_column);
+    EXPECT_EQ(read_fields(true, line, column), plain);
+    EXPECT_EQ(line, plain_line);
+    EXPECT_EQ(column, plain_column);
+  }
 }
 
 } // namespace
