@@ -5,13 +5,12 @@
 // the floor's.
 #include "output/igsOutStream.h"
 
+#include "benchSupport.h"
+
 #include <benchmark/benchmark.h>
 
-#include <charconv>
-#include <chrono>
 #include <cmath>
 #include <cstdio>
-#include <cstring>
 #include <ostream>
 #include <random>
 #include <string>
@@ -20,18 +19,6 @@
 namespace {
 
 constexpr int values_per_record = 8;
-
-// Writes into a store that is made once, with no copy and no growth.
-class MemoryOut : public std::streambuf {
- public:
-  explicit MemoryOut(size_t size) : m_store(size, '\0') { rewind(); }
-  void rewind() { setp(m_store.data(), m_store.data() + m_store.size()); }
-  size_t used() const { return static_cast<size_t>(pptr() - pbase()); }
-  char* data() { return m_store.data(); }
-
- private:
-  std::string m_store;
-};
 
 // Coordinates as CAD files hold them: mostly moderate values with all their digits, some
 // whole numbers, some tiny or huge ones.
@@ -68,74 +55,19 @@ size_t ours(MemoryOut& buffer) {
   return buffer.used();
 }
 
-// The least that laying reals into Parameter lines takes: the text of each value from
-// `print`, a delimiter behind it, a new line where the next would not fit, and the tail.
-template <class Print> size_t floor_lines(MemoryOut& buffer, Print print) {
-  char* out = buffer.data();
-  char line[81];
-  std::memset(line, ' ', 80);
-  line[80] = '\n';
-  int column = 0;
-  int number = 0;
-  int backpointer = 1;
-  auto finish = [&] {
-    char* tail = line + 64;
-    std::to_chars(tail + 1, tail + 8, backpointer);
-    tail[8] = 'P';
-    std::to_chars(tail + 9, tail + 16, ++number);
-    std::memcpy(out, line, 81);
-    out += 81;
-    std::memset(line, ' ', 80);
-    column = 0;
-  };
-  std::vector<double> const& v = values();
-  for (size_t i = 0; i < v.size(); ++i) {
-    char text[32];
-    int n = print(text, v[i]);
-    if (column + n + 1 > 64) finish();
-    std::memcpy(line + column, text, static_cast<size_t>(n));
-    bool last = i % values_per_record == values_per_record - 1;
-    line[column + n] = last ? ';' : ',';
-    column += n + 1;
-    if (last) {
-      finish();
-      backpointer = static_cast<int>(2 * (i / values_per_record) + 3);
-    }
-  }
-  if (column) finish();
-  return static_cast<size_t>(out - buffer.data());
-}
-
 size_t to_chars_floor(MemoryOut& buffer) {
-  return floor_lines(buffer, [](char* text, double x) {
-    auto printed = std::to_chars(text, text + 32, x, std::chars_format::general, 15);
-    return static_cast<int>(printed.ptr - text);
-  });
+  return floor_lines(buffer, values(), values_per_record, to_chars_text);
 }
 
 size_t snprintf_floor(MemoryOut& buffer) {
-  return floor_lines(buffer,
+  return floor_lines(buffer, values(), values_per_record,
                      [](char* text, double x) { return std::snprintf(text, 32, "%.15G", x); });
 }
 
-using Clock = std::chrono::steady_clock;
-
 void BM_EncodeReals(benchmark::State& state) {
   MemoryOut buffer(values().size() * 40);
-  double seconds[3] = {};
-  size_t bytes[3] = {};
   size_t (*const runs[3])(MemoryOut&) = {ours, to_chars_floor, snprintf_floor};
-  for (auto _ : state) {
-    for (int r = 0; r < 3; ++r) {
-      auto t0 = Clock::now();
-      bytes[r] = runs[r](buffer);
-      benchmark::DoNotOptimize(buffer.data());
-      seconds[r] += std::chrono::duration<double>(Clock::now() - t0).count();
-    }
-  }
-  double n = static_cast<double>(state.iterations());
-  double mbs[3];
-  for (int r = 0; r < 3; ++r) mbs[r] = static_cast<double>(bytes[r]) * n / 1e6 / seconds[r];
+  std::array<double, 3> mbs = megabytes_per_second(state, buffer, runs);
   state.counters["MB/s"] = mbs[0];
   state.counters["to_chars_MB/s"] = mbs[1];
   state.counters["snprintf_MB/s"] = mbs[2];

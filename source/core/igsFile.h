@@ -14,6 +14,7 @@
 
 class igsError;
 class igsInStream;
+class igsOutStream;
 
 class igsFile {
  public:
@@ -40,6 +41,14 @@ class igsFile {
   // unusable delimiters, a fatal fault of the stream); what was read stays. The messages
   // stream goes to the Global section. Meant for a file that is still empty.
   int read(std::istream& stream, utOstream& messages);
+
+  // Writes the whole file: Start, Global, Directory, Parameter and Terminate sections. Packs
+  // the table first, so DE numbers run 1, 3, 5, ... and each Directory Entry gets its new
+  // parameter pointers. The Parameter section goes through a temporary file in the write
+  // directory, which is removed however the writing ends. Runs with this file current, so
+  // the errors of overflowing limits go to its log. 1 on success; 0 when the temporary file
+  // cannot be made, the stream fails, or a limit is exceeded. The stream is not closed.
+  int write(std::ostream& stream, utOstream& messages);
 
   void print(utOstream& out) const;
   // Moves every reference of the old entity to the new one, deletes the old one and gives
@@ -94,6 +103,17 @@ class igsFile {
   // Reads each record of parameter data into the entity that its back pointer names; the
   // result of the reset that ends the section.
   int read_parameter_data_section(igsInStream& in);
+
+  // The Directory and Parameter sections: the parameter data to a temporary file first, each
+  // entity's Directory Entry taking its parameter pointer and line count from it, then the
+  // D lines, then the copied P lines. `out` writes to `stream` and has just left the Global
+  // section.
+  int write_data_section(std::ostream& stream, igsOutStream& out);
+  // The two D lines of every entity in slot order; 0 if the stream failed.
+  int write_directory_entries(igsOutStream& out);
+  // Copies the finished P lines of the temporary file to the stream; 0 if the file cannot be
+  // read or the stream failed.
+  int write_parameter_data_section(std::ostream& stream, char const* temp_name);
 
  private:
   friend class igsObjectSystem;
