@@ -10,7 +10,11 @@
 #include "support/kvuTypeInfo.h"
 #include "support/utOstream.h"
 
+#include <istream>
+
 class igsError;
+class igsInStream;
+class igsOutStream;
 
 class igsFile {
  public:
@@ -29,6 +33,23 @@ class igsFile {
   // them read null. Runs with this file current, as check.
   void clean(int delete_bad);
 
+  // Reads a whole file from the stream in one pass, with this file current: the Start and
+  // Global sections, every Directory Entry (each makes its entity), every entity's parameter
+  // data, and the Terminate section. What is damaged is repaired at line level or raised as
+  // an error; then the Null and Unknown entities and those that got no parameter data are
+  // removed. Returns 1, or 0 if a section could not be read to its end (an empty stream,
+  // unusable delimiters, a fatal fault of the stream); what was read stays. The messages
+  // stream goes to the Global section. Meant for a file that is still empty.
+  int read(std::istream& stream, utOstream& messages);
+
+  // Writes the whole file: Start, Global, Directory, Parameter and Terminate sections. Packs
+  // the table first, so DE numbers run 1, 3, 5, ... and each Directory Entry gets its new
+  // parameter pointers. The Parameter section goes through a temporary file in the write
+  // directory, which is removed however the writing ends. Runs with this file current, so
+  // the errors of overflowing limits go to its log. 1 on success; 0 when the temporary file
+  // cannot be made, the stream fails, or a limit is exceeded. The stream is not closed.
+  int write(std::ostream& stream, utOstream& messages);
+
   void print(utOstream& out) const;
   // Moves every reference of the old entity to the new one, deletes the old one and gives
   // the new one its slot, so the new entity takes over the DE number and the write order.
@@ -45,6 +66,9 @@ class igsFile {
   int num_unknowns() const { return m_num_unknowns; }
   // 1 unless reading failed before or in the Directory section.
   int parameter_data_read() const { return m_parameter_data_read; }
+  // Set while reading when line numbers were out of sequence, or blank lines were dropped.
+  int invalid_line_numbers() const { return m_invalid_line_numbers; }
+  int blank_line() const { return m_blank_line; }
 
   igsStartSection const& start_section() const { return m_start_section; }
   igsGlobalSection const& global_section() const { return m_global_section; }
@@ -70,6 +94,27 @@ class igsFile {
   // that every reference to them reads null for good.
   void remove_forward_references();
 
+  // Reads the Directory Entries up to the end of the section; the result of the reset that
+  // ends it.
+  int read_directory_section(igsInStream& in);
+  // Reads the two D lines where the stream stands and makes their entity; 0 when the stream
+  // stands on no D line or has failed for good.
+  int read_directory_entry(igsInStream& in);
+  // Reads each record of parameter data into the entity that its back pointer names; the
+  // result of the reset that ends the section.
+  int read_parameter_data_section(igsInStream& in);
+
+  // The Directory and Parameter sections: the parameter data to a temporary file first, each
+  // entity's Directory Entry taking its parameter pointer and line count from it, then the
+  // D lines, then the copied P lines. `out` writes to `stream` and has just left the Global
+  // section.
+  int write_data_section(std::ostream& stream, igsOutStream& out);
+  // The two D lines of every entity in slot order; 0 if the stream failed.
+  int write_directory_entries(igsOutStream& out);
+  // Copies the finished P lines of the temporary file to the stream; 0 if the file cannot be
+  // read or the stream failed.
+  int write_parameter_data_section(std::ostream& stream, char const* temp_name);
+
  private:
   friend class igsObjectSystem;
   friend class igsObject;
@@ -81,6 +126,10 @@ class igsFile {
   void object_deleted(igsObject* object);
   void ptr_created(igsObjectPtr* ptr, int location);
   void reset_visit_flags();
+  // After reading: drops the Null and Unknown entities (counting them) and those that got no
+  // parameter data (with igsFileNoPDData), then the placeholders of DE numbers that no entity
+  // took.
+  void tidyup();
   // The checks that compare entities with each other.
   void check_inter_entity_errors() const;
   // A view's number must be set, not negative, and not used by an earlier view; each fault is
@@ -109,6 +158,8 @@ class igsFile {
   int m_system_location = -1;
   utString m_write_dir;
   kvnabsOutput* m_message_stream = nullptr;
+  int m_invalid_line_numbers = 0;
+  int m_blank_line = 0;
   int m_parameter_data_read = 1;
   int m_num_nulls = 0;
   int m_num_unknowns = 0;

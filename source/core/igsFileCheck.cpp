@@ -1,5 +1,6 @@
 // Checking a whole file, and cleaning it: check, repair, and at the caller's wish the removal
 // of what stays bad.
+#include "core/igsCurrentFileScope.h"
 #include "core/igsFile.h"
 #include "core/igsObject.h"
 #include "core/igsObjectSystem.h"
@@ -10,22 +11,6 @@
 #include <new>
 
 namespace {
-
-// Makes a file current for the span of a call, so that the walk's flags, the errors and the
-// DE numbers bound by repairs all concern that file, and then restores the file that was
-// current before.
-class igsCurrentFileScope {
- public:
-  explicit igsCurrentFileScope(igsFile const& file) : m_previous(&igsObjectSystem::file()) {
-    igsObjectSystem::set_current_file(file);
-  }
-  ~igsCurrentFileScope() { igsObjectSystem::set_current_file(*m_previous); }
-  igsCurrentFileScope(igsCurrentFileScope const&) = delete;
-  igsCurrentFileScope& operator=(igsCurrentFileScope const&) = delete;
-
- private:
-  igsFile const* m_previous;
-};
 
 // Proposes numbers for views whose number is bad: above the largest number in use, one more
 // for each number proposed. Past the largest int, the lowest positive number that is neither

@@ -71,6 +71,23 @@ class igsObject {
   // Stores type and form in the DE; every concrete constructor calls it last.
   void set_directory_entry_type(igsEntityType type, int form);
 
+  // Reads the entity's record, the stream standing on its first Parameter line: the type
+  // number, then read_pd_data. A record read to its end marks the entity as read (the
+  // manager's visited flag) and raises the errors of a NaN and of NUL characters in it; its
+  // lines out of sequence set bad_line_numbers, and blank lines among them set blank_lines.
+  // Every code of the record is collected here, so none reaches the next record. The stream
+  // ends on the first line of the next record, whatever the entity left unread.
+  void read(igsInStream& in, int& bad_line_numbers, int& blank_lines);
+  // Writes the DE's entity type as a delimited integer, then the parameters.
+  void write(igsOutStream& out);
+  // Reads the type number that opens the record: 1 when it is the DE's type or the entity
+  // stands for an unknown one; else raises igsFilePDEntityTypeMismatch and gives 0.
+  int read_pd_entity_type(igsInStream& in);
+  // Reads and drops the two lists of back pointers that may follow an entity's parameters.
+  void read_additional_entity_pointers(igsInStream& in);
+  // Passes over the lines that still carry this entity's DE number as back pointer.
+  void skip_this_entity(igsInStream& in);
+
   // A new entity of the class registered for the type and form, or an igsUnknown.
   static igsObject* create(igsEntityType type, int form);
 

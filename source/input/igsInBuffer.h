@@ -34,7 +34,11 @@ class igsInBuffer {
   void skip_line() { get_next_line(); }
   void freeze();
   // Ends a stop: 1 when the line is readable again, 0 (and still frozen) on a fatal code. A
-  // stop at a record delimiter in mid-line drops the rest of that line.
+  // stop at a record delimiter in mid-line drops the rest of that line. The codes that the
+  // fetch of the line where the buffer stopped recorded about that line (NUL characters,
+  // blank lines in front of it, its number) are held back while it stops and stand again
+  // once it is readable: they belong to whoever reads that line, not to the reader that
+  // stopped in front of it, and the reset that clears the codes must not lose them.
   int reset();
   int fatal_error() const { return m_filler.fatal_error() || m_checker.fatal_error(); }
   void collect_errors(igsIOErrorcoDynArr& errors);
@@ -66,6 +70,9 @@ class igsInBuffer {
   char* m_end = nullptr;
   char m_saved = 0;
   int m_frozen = 0;
+  // The codes held back from the filler and from the checker, one bit for each code.
+  unsigned m_held_filler = 0;
+  unsigned m_held_checker = 0;
 
   static inline void (*m_callback_fn)() = nullptr;
 };

@@ -23,6 +23,8 @@ class igsInBufferChecker {
   int fatal_error() const { return m_errors.fatal(); }
   // 0 if a fatal code is recorded; else forgets the codes and returns 1.
   int reset() { return m_errors.reset(); }
+  // The recorded codes, for the buffer that holds back those of a line where it stops.
+  igsIOCodeList& codes() { return m_errors; }
   // Appends the recorded codes; a checker without a fatal code then forgets them.
   void collect_errors(igsIOErrorcoDynArr& errors) { m_errors.collect(errors); }
   void position(igsFileSection& section, int& line) const {

@@ -28,6 +28,8 @@ class igsInBufferFiller {
   int fatal_error() const { return m_errors.fatal(); }
   // 0 if a fatal code is recorded; else forgets the codes and returns 1.
   int reset() { return m_errors.reset(); }
+  // The recorded codes, for the buffer that holds back those of a line where it stops.
+  igsIOCodeList& codes() { return m_errors; }
   void set_param_delimiter(char c) { m_param_delimiter = c; }
   void set_record_delimiter(char c) { m_record_delimiter = c; }
 

@@ -7,6 +7,8 @@
 #include "sections/igsEntityKind.h"
 #include "support/utOstream.h"
 
+#include <iterator>
+
 // The two D lines
 
 namespace {
@@ -72,17 +74,19 @@ constexpr int label_field_width = 24; // the reserved columns and the label
 
 } // namespace
 
-int igsDirectoryFields::read(igsInStream& in) {
+int igsDirectoryFields::read(igsInStream& in, igsIOErrorcoDynArr* line_codes) {
   igsFileSection section;
   int column;
   in.position(section, line, column);
+  Column const* last = std::end(layout) - 1;
   for (Column const& c : layout) {
+    if (&c == last && line_codes) line_codes->become(utCopyTag, in.errors());
     if (c.number)
       in.read_integer(static_cast<unsigned>(c.width), this->*c.number);
     else
       in.read_string(static_cast<unsigned>(c.width), this->*c.text);
   }
-  in.errors();
+  if (!line_codes) in.errors();
   return !in.fatal_error();
 }
 

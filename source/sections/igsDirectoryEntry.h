@@ -45,7 +45,11 @@ struct igsDirectoryFields {
   // fields read as 0 and the texts keep their columns as they stand. The codes of the reads
   // stay collected in the stream for the caller to ask. Returns 0 if the stream has a fatal
   // error afterwards.
-  int read(igsInStream& in);
+  //
+  // With `line_codes`, the codes are collected there instead, just before the last field is
+  // read: reading it takes the stream onto the next line, whose codes (a NUL in it, blank
+  // lines in front of it) are left uncollected for the reader of that line.
+  int read(igsInStream& in, igsIOErrorcoDynArr* line_codes = nullptr);
   // Writes the two lines, right-justified: each status value as "0" and its digit, and the
   // reserved columns and the label as one text field of 24 columns.
   void write(igsOutStream& out) const;

@@ -101,14 +101,22 @@ inline Lines describe(igsIOErrorcoDynArr const& errors) {
 }
 
 // Walks a stream line by line, reading no fields, and lists every code with its location.
-// A stop is ended with reset; the walk ends at a fatal code.
+// A stop is ended with reset, after which the codes of the line where it stopped stand; the
+// walk ends at a fatal code.
 inline Lines walk(std::string const& bytes) {
   std::istringstream in(bytes);
   igsInStream stream(in);
   Lines events;
-  for (int guard = 0; guard < 10000; ++guard) {
+  auto note = [&] {
     for (auto const& text : describe(stream.errors())) events.push_back(text);
-    if (stream.fatal_error() || (stream.frozen() && !stream.reset())) break;
+  };
+  for (int guard = 0; guard < 10000; ++guard) {
+    note();
+    if (stream.fatal_error()) break;
+    if (stream.frozen()) {
+      if (!stream.reset()) break;
+      note();
+    }
     stream.skip_line();
   }
   return events;

@@ -1,0 +1,155 @@
+// Reading a whole file: the sections in order, one entity for each Directory Entry, their
+// parameter data, and the removal of what reading could not make into an entity.
+#include "core/igsCurrentFileScope.h"
+#include "core/igsFile.h"
+#include "core/igsFileErrors.h"
+#include "core/igsInfoDB.h"
+#include "core/igsNull.h"
+#include "core/igsObject.h"
+#include "core/igsObjectPtr.h"
+#include "core/igsUnknown.h"
+#include "input/igsInStream.h"
+#include "sections/igsDirectoryEntry.h"
+#include "sections/igsStreamSection.h"
+
+#include <new>
+
+int igsFile::read(std::istream& stream, utOstream& messages) {
+  igsCurrentFileScope current(*this);
+  igsInStream in(stream);
+  if (!in.reset()) return 0;
+  int blank_lines = 0;
+  int result = m_start_section.read(in, blank_lines);
+  if (blank_lines) m_blank_line = 1;
+  if (result) {
+    int bad_line_numbers = 0;
+    blank_lines = 0;
+    result = m_global_section.read(in, messages, bad_line_numbers, blank_lines);
+    if (bad_line_numbers) m_invalid_line_numbers = 1;
+    if (blank_lines) m_blank_line = 1;
+  }
+  m_parameter_data_read = 0;
+  if (result) result = read_directory_section(in);
+  if (result) {
+    reset_visit_flags();
+    result = read_parameter_data_section(in);
+    m_parameter_data_read = 1;
+  }
+  if (result) {
+    blank_lines = 0;
+    result = m_terminate_section.read(in, blank_lines);
+    if (blank_lines) m_blank_line = 1;
+  }
+  if (m_invalid_line_numbers) tag_error(new (std::nothrow) igsFileInvalidLineNumbers);
+  if (m_blank_line) tag_error(new (std::nothrow) igsFileBlankLine);
+  if (m_parameter_data_read) tidyup();
+  return result;
+}
+
+int igsFile::read_directory_section(igsInStream& in) {
+  while (read_directory_entry(in)) {
+  }
+  return in.reset();
+}
+
+int igsFile::read_directory_entry(igsInStream& in) {
+  if (igs_stream_section(in) != igsSectionDirectory) return 0;
+  igsDirectoryFields fields;
+  igsIOErrorcoDynArr codes;
+  int sound = fields.read(in, &codes);
+  int line = fields.line;
+  int type = fields.entity_type;
+  int form = fields.form_number;
+  if (type != fields.second_entity_type) {
+    tag_error(new (std::nothrow)
+                  igsFileDEEntityTypeMismatch(line, type, fields.second_entity_type));
+    type = igsEntityTypeUnknown;
+  } else if (!igsInfoDB::entity_exists(type)) {
+    tag_error(new (std::nothrow) igsFileInvalidIGESEntity(line, type));
+    type = igsEntityTypeUnknown;
+  } else if (!igsInfoDB::form_exists(type, form)) {
+    int default_form = 0;
+    int found = 0;
+    igsInfoDB::default_form_number(type, default_form, found);
+    if (found) {
+      tag_error(new (std::nothrow) igsFileDefaultedForm(line, type, form));
+      form = default_form;
+    } else {
+      tag_error(new (std::nothrow) igsFileUnknownForm(line, type, form));
+      type = igsEntityTypeUnknown;
+    }
+  }
+  if (igs_has_io_error(codes, igsIONullCharacter))
+    tag_error(new (std::nothrow) igsFileDENullCharacters(line));
+  if (igs_has_io_error(codes, igsIOLineSequence)) m_invalid_line_numbers = 1;
+  if (igs_has_io_error(codes, igsIOBlankLine)) m_blank_line = 1;
+  // The entity takes the next slot: its DE number comes from its place, not from the line.
+  if (igsObject* object = igsObject::create(static_cast<igsEntityType>(type), form)) {
+    fields.form_number = form;
+    object->directory_entry().set_fields(fields);
+  }
+  return sound;
+}
+
+int igsFile::read_parameter_data_section(igsInStream& in) {
+  while (igs_stream_section(in) == igsSectionParameter) {
+    igsFileSection section;
+    int line = 0;
+    int column = 0;
+    in.position(section, line, column);
+    int backpointer = in.backpointer();
+    igsObjectPtr current(backpointer);
+    if (!current) {
+      // Lines of no entity are passed over.
+      while (in.backpointer() == backpointer && igs_stream_section(in) == igsSectionParameter &&
+             !in.fatal_error())
+        in.skip_line();
+      if (!in.reset()) break;
+      continue;
+    }
+    int lines_before = in.num_lines(igsSectionParameter);
+    int start_in_de = current->directory_entry().start_of_parameter_data();
+    if (start_in_de != line)
+      tag_error(new (std::nothrow) igsFileIncorrectStartOfPD(backpointer, line, start_in_de));
+    int bad_line_numbers = 0;
+    int blank_lines = 0;
+    current->read(in, bad_line_numbers, blank_lines);
+    if (bad_line_numbers) m_invalid_line_numbers = 1;
+    if (blank_lines) m_blank_line = 1;
+    if (!in.reset()) {
+      // What was read into the entity from a line that failed this way is not trustworthy.
+      if (current && (in.error_type(igsIOBadBackpointer) || in.error_type(igsIOBadLineNumber) ||
+                      in.error_type(igsIOBadSectionLetter)))
+        delete current();
+      break;
+    }
+    // The last record ends on the T line: the Terminate count makes its count come out right.
+    int lines_used =
+        in.num_lines(igsSectionParameter) + in.num_lines(igsSectionTerminate) - lines_before;
+    int count_in_de = current ? current->directory_entry().parameter_line_count() : lines_used;
+    if (lines_used != count_in_de)
+      tag_error(new (std::nothrow)
+                    igsFileIncorrectPDLineCount(backpointer, lines_used, count_in_de));
+  }
+  return in.reset();
+}
+
+void igsFile::tidyup() {
+  for (int location = 0; location < m_table.size(); ++location) {
+    igsObjectManager* manager = slot(location);
+    igsObject* object = manager ? manager->object() : nullptr;
+    if (!object) continue;
+    if (object->isa(igsNull::type())) {
+      ++m_num_nulls;
+      delete object;
+    } else if (object->isa(igsUnknown::type())) {
+      ++m_num_unknowns;
+      delete object;
+    } else if (!manager->visited()) {
+      int de_number = object->de_number();
+      delete object;
+      tag_error(new (std::nothrow) igsFileNoPDData(de_number));
+    }
+  }
+  remove_forward_references();
+}

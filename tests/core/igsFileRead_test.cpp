@@ -1,0 +1,539 @@
+// Reading whole files: sound ones, and each kind of damage with the result, the counts and the
+// errors it leaves.
+#include "readTestSupport.h"
+
+#include "entities/curves/igs100.h"
+#include "entities/curves/igs110.h"
+#include "entities/curves/igs116.h"
+
+using namespace igs_read_test;
+
+namespace {
+
+// A point, a line and an arc, the point's display symbol naming the arc ahead of it.
+FileText three_entities() {
+  FileText f;
+  f.add(116, 0, {"116,1.,2.,3.,5;"});
+  f.add(110, 0, {"110,0.,0.,0.,", "4.,5.,6.;"});
+  f.add(100, 0, {"100,1.5,0.,0.,2.,0.,0.,2.;"});
+  return f;
+}
+
+TEST_F(ReadTest, ASoundFileReadsEveryEntityWithItsValues) {
+  ASSERT_EQ(read(three_entities().text()), 1);
+  EXPECT_EQ(errors(), Lines{});
+  EXPECT_EQ(file->num_entities(), 3);
+  EXPECT_EQ(file->num_managers(), 3);
+  EXPECT_EQ(file->parameter_data_read(), 1);
+  EXPECT_EQ(file->num_nulls(), 0);
+  EXPECT_EQ(file->num_unknowns(), 0);
+
+  auto* point = entity<igs116>(1);
+  auto* line = entity<igs110>(3);
+  auto* arc = entity<igs100>(5);
+  ASSERT_TRUE(point && line && arc);
+  EXPECT_EQ(point->point(), giPoint3(1, 2, 3));
+  EXPECT_EQ(point->display_symbol()(), arc); // a reference forward, bound while reading
+  EXPECT_EQ(line->start_point(), giPoint3(0, 0, 0));
+  EXPECT_EQ(line->end_point(), giPoint3(4, 5, 6));
+  EXPECT_EQ(arc->z_level(), 1.5);
+  EXPECT_EQ(arc->centre(), giPoint2(0, 0));
+  EXPECT_EQ(arc->start_point(), giPoint2(2, 0));
+  EXPECT_EQ(arc->end_point(), giPoint2(0, 2));
+  EXPECT_EQ(arc->num_references(), 1);
+
+  // The sections around the entities.
+  EXPECT_EQ(file->global_section().product_id_from_sending_system(), utString("Product"));
+  EXPECT_EQ(file->terminate_section().lines(igsSectionParameter), 4);
+  EXPECT_EQ(file->terminate_section().lines(igsSectionDirectory), 6);
+}
+
+TEST_F(ReadTest, TypeMismatchesDropTheEntityWithTheirErrors) {
+  FileText f;
+  // The two type fields of the D lines differ: an Unknown entity, dropped after reading.
+  int de_mismatch = f.add(110, 0, {"110,0.,0.,0.,1.,1.,1.;"});
+  f.entity(de_mismatch).second_type = 116;
+  // The record opens with another type than its D lines: it is not read, so the entity has no
+  // parameter data.
+  int pd_mismatch = f.add(110, 0, {"116,1.,2.,3.;"});
+  int sound = f.add(116, 0, {"116,1.,2.,3.;"});
+  ASSERT_EQ(read(f.text()), 1);
+  EXPECT_EQ(errors(), (Lines{"igsFileDEEntityTypeMismatch(line=1,first_type=110,second_type=116)",
+                             "igsFilePDEntityTypeMismatch(de_number=3,type_read=116)",
+                             "igsFileNoPDData(de_number=3)"}));
+  EXPECT_EQ(file->num_entities(), 1);
+  EXPECT_EQ(file->num_unknowns(), 1);
+  EXPECT_EQ(file->num_nulls(), 0);
+  EXPECT_FALSE(entity<igsObject>(de_mismatch));
+  EXPECT_FALSE(entity<igsObject>(pd_mismatch));
+  ASSERT_TRUE(entity<igs116>(sound));
+  EXPECT_EQ(entity<igs116>(sound)->point(), giPoint3(1, 2, 3));
+  EXPECT_EQ(repaired(), "Warning : There is no Parameter Data associated with object DE 3.\n");
+}
+
+TEST_F(ReadTest, UnknownTypesAndFormsAreDefaultedOrDropped) {
+  FileText f;
+  int line_form_7 = f.add(110, 7, {"110,0.,0.,0.,1.,1.,1.;"});
+  int copious_form_99 = f.add(106, 99, {"106,1,2,0.,0.,0.;"});
+  int no_such_type = f.add(999, 0, {"999,1,2,3;"});
+  // A type and form of the tables for which no class exists: Unknown, without an error.
+  int without_class = f.add(126, 0, {"126,1,1,0,0,1,0,0.,0.,1.,1.;"});
+  ASSERT_EQ(read(f.text()), 1);
+  EXPECT_EQ(errors(), (Lines{"igsFileDefaultedForm(line=1,entity_type=110,form=7)",
+                             "igsFileUnknownForm(line=3,entity_type=106,form=99)",
+                             "igsFileInvalidIGESEntity(line=5,entity_type=999)"}));
+  // The line is read with the type's default form.
+  auto* line = entity<igs110>(line_form_7);
+  ASSERT_TRUE(line);
+  EXPECT_EQ(line->directory_entry().form_number(), 0);
+  EXPECT_EQ(line->end_point(), giPoint3(1, 1, 1));
+  EXPECT_FALSE(entity<igsObject>(copious_form_99));
+  EXPECT_FALSE(entity<igsObject>(no_such_type));
+  EXPECT_FALSE(entity<igsObject>(without_class));
+  EXPECT_EQ(file->num_unknowns(), 3);
+  EXPECT_EQ(file->num_entities(), 1);
+  // A defaulted form is settled by its repair, which says nothing; the others stay.
+  EXPECT_EQ(repaired(), "");
+}
+
+TEST_F(ReadTest, StartAndCountOfParameterLinesAreComparedWithTheDirectoryEntry) {
+  FileText f;
+  int wrong_start = f.add(116, 0, {"116,1.,2.,3.;"});
+  f.entity(wrong_start).start = 5;
+  int wrong_count = f.add(110, 0, {"110,0.,0.,0.,", "1.,1.,1.;"});
+  f.entity(wrong_count).count = 3;
+  // Lines behind the record's end still count as the entity's; the last record ends on the
+  // T line.
+  int trailing = f.add(116, 0, {"116,4.,5.,6.;", "7.,8.;"});
+  f.entity(trailing).count = 1;
+  ASSERT_EQ(read(f.text()), 1);
+  EXPECT_EQ(errors(),
+            (Lines{"igsFileIncorrectStartOfPD(de_number=1,line_found=1,line_in_de=5)",
+                   "igsFileIncorrectPDLineCount(de_number=3,lines_found=2,count_in_de=3)",
+                   "igsFileIncorrectPDLineCount(de_number=5,lines_found=2,count_in_de=1)"}));
+  // Reading goes on: every entity holds its values.
+  EXPECT_EQ(file->num_entities(), 3);
+  EXPECT_EQ(entity<igs116>(wrong_start)->point(), giPoint3(1, 2, 3));
+  EXPECT_EQ(entity<igs110>(wrong_count)->end_point(), giPoint3(1, 1, 1));
+  EXPECT_EQ(entity<igs116>(trailing)->point(), giPoint3(4, 5, 6));
+  EXPECT_EQ(repaired(), "");
+}
+
+TEST_F(ReadTest, ReferencesBindForwardAndToNothing) {
+  FileText f;
+  // Display symbols: the next entity, an entity that is never made, a Null entity, and an
+  // even number that names no entity at all.
+  int ahead = f.add(116, 0, {"116,0.,0.,0.,3;"});
+  int to_nothing = f.add(116, 0, {"116,0.,0.,0.,99;"});
+  int to_null = f.add(116, 0, {"116,0.,0.,0.,7;"});
+  int null = f.add(0, 0, {"0;"});
+  int even = f.add(116, 0, {"116,0.,0.,0.,4;"});
+  ASSERT_EQ(read(f.text()), 1);
+  EXPECT_EQ(errors(), Lines{});
+  // The placeholder of DE 99 is gone: one manager for each entity. (Looking an entity up by
+  // a number whose slot is empty makes a placeholder again, so this comes first.)
+  EXPECT_EQ(file->num_entities(), 4);
+  EXPECT_EQ(file->num_managers(), 4);
+  EXPECT_EQ(file->num_nulls(), 1);
+  EXPECT_EQ(entity<igs116>(ahead)->display_symbol()(), entity<igs116>(to_nothing));
+  EXPECT_FALSE(entity<igs116>(to_nothing)->display_symbol());
+  EXPECT_FALSE(entity<igs116>(to_null)->display_symbol());
+  EXPECT_FALSE(entity<igsObject>(null));
+  EXPECT_FALSE(entity<igs116>(even)->display_symbol());
+}
+
+TEST_F(ReadTest, ParameterLinesOfNoEntityArePassedOver) {
+  FileText f;
+  int first = f.add(116, 0, {"116,1.,1.,1.;"});
+  int second = f.add(116, 0, {"116,2.,2.,2.;"});
+  Lines p = f.parameters();
+  // Records whose back pointers name a DE number without an entity, and no DE number at all.
+  Lines stray = {record('P', 2, "116,9.,9.,9.;", 9), record('P', 3, "116,8.,8.,8.,", 4),
+                 record('P', 4, "1;", 4)};
+  Lines damaged = {p[0]};
+  damaged.insert(damaged.end(), stray.begin(), stray.end());
+  damaged.push_back(record('P', 5, "116,2.,2.,2.;", second));
+  f.entity(second).start = 5;
+  Lines lines = f.start() + f.global() + f.directory() + damaged +
+                Lines{record('T', 1, "S      1G      3D      4P      5")};
+  ASSERT_EQ(read(lines), 1);
+  EXPECT_EQ(errors(), Lines{});
+  EXPECT_EQ(file->num_entities(), 2);
+  EXPECT_EQ(file->num_managers(), 2); // the placeholder of DE 9 is gone
+  EXPECT_EQ(entity<igs116>(first)->point(), giPoint3(1, 1, 1));
+  EXPECT_EQ(entity<igs116>(second)->point(), giPoint3(2, 2, 2));
+}
+
+TEST_F(ReadTest, NullEntitiesAreCountedAndDroppedWithoutChangingTheNumbering) {
+  FileText f;
+  int null = f.add(0, 0, {"0;"});
+  int point = f.add(116, 0, {"116,1.,2.,3.;"});
+  int second_null = f.add(0, 0, {"0,1,2;"});
+  ASSERT_EQ(read(f.text()), 1);
+  EXPECT_EQ(errors(), Lines{});
+  EXPECT_EQ(file->num_nulls(), 2);
+  EXPECT_EQ(file->num_entities(), 1);
+  EXPECT_FALSE(entity<igsObject>(null));
+  EXPECT_FALSE(entity<igsObject>(second_null));
+  ASSERT_TRUE(entity<igs116>(point));
+  EXPECT_EQ(entity<igs116>(point)->de_number(), 3);
+}
+
+TEST_F(ReadTest, FilesThatEndEarly) {
+  FileText f = three_entities();
+  {
+    SCOPED_TRACE("an empty stream: nothing was attempted");
+    EXPECT_EQ(read(""), 0);
+    EXPECT_EQ(file->parameter_data_read(), 1);
+    EXPECT_EQ(file->num_entities(), 0);
+    EXPECT_EQ(errors(), Lines{});
+  }
+  {
+    SCOPED_TRACE("cut after the last D line: the end of input is fatal, so no tidyup");
+    file = std::make_unique<igsFile>();
+    EXPECT_EQ(read(f.start() + f.global() + f.directory()), 0);
+    EXPECT_EQ(file->parameter_data_read(), 0);
+    EXPECT_EQ(file->num_entities(), 3);
+    ASSERT_TRUE(entity<igs110>(3));
+    EXPECT_TRUE(entity<igs110>(3)->end_point().invalid()); // made, but without data
+    EXPECT_EQ(errors(), Lines{});
+  }
+  {
+    SCOPED_TRACE("D lines and a T line, no P line: every entity goes without data");
+    file = std::make_unique<igsFile>();
+    EXPECT_EQ(read(f.start() + f.global() + f.directory() +
+                   Lines{record('T', 1, "S      1G      3D      6P      0")}),
+              1);
+    EXPECT_EQ(file->parameter_data_read(), 1);
+    EXPECT_EQ(file->num_entities(), 0);
+    EXPECT_EQ(errors(), (Lines{"igsFileNoPDData(de_number=1)", "igsFileNoPDData(de_number=3)",
+                               "igsFileNoPDData(de_number=5)"}));
+  }
+  {
+    SCOPED_TRACE("no T line: the entities are read, the file is not whole");
+    file = std::make_unique<igsFile>();
+    EXPECT_EQ(read(f.start() + f.global() + f.directory() + f.parameters()), 0);
+    EXPECT_EQ(file->parameter_data_read(), 1);
+    EXPECT_EQ(file->num_entities(), 3);
+    ASSERT_TRUE(entity<igs100>(5));
+    EXPECT_EQ(entity<igs100>(5)->end_point(), giPoint2(0, 2));
+    EXPECT_EQ(errors(), Lines{});
+  }
+  {
+    SCOPED_TRACE("no Start section: the Global section opens the file");
+    file = std::make_unique<igsFile>();
+    EXPECT_EQ(read(f.global() + f.directory() + f.parameters() + f.terminate()), 1);
+    EXPECT_EQ(file->num_entities(), 3);
+  }
+}
+
+TEST_F(ReadTest, ALineThatFailsForGoodDropsTheEntityBeingRead) {
+  FileText f;
+  f.add(116, 0, {"116,1.,1.,1.;"});
+  int damaged = f.add(110, 0, {"110,0.,0.,0.,", "1.,1.,1.;"});
+  f.add(116, 0, {"116,3.,3.,3.;"});
+  Lines lines = f.lines();
+  // The second P line of the line entity has a blank back pointer field, or a letter in
+  // place of its section letter.
+  size_t second_line_of_damaged = f.start().size() + f.global().size() + 6 + 2;
+  for (int letter = 0; letter < 2; ++letter) {
+    SCOPED_TRACE(letter ? "section letter" : "back pointer");
+    file = std::make_unique<igsFile>();
+    Lines damaged_lines = lines;
+    if (letter)
+      damaged_lines[second_line_of_damaged][72] = 'X';
+    else
+      damaged_lines[second_line_of_damaged].replace(65, 7, "       ");
+    EXPECT_EQ(read(damaged_lines), 0);
+    // The point before it was read; the line was deleted; the point behind it was never read.
+    EXPECT_EQ(file->parameter_data_read(), 1);
+    // A line without its letter is out of sequence as well.
+    Lines expected = {"igsFileNoPDData(de_number=5)"};
+    if (letter) expected.push_back("igsFileInvalidLineNumbers");
+    EXPECT_EQ(errors(), expected);
+    EXPECT_EQ(file->num_entities(), 1);
+    EXPECT_FALSE(entity<igsObject>(damaged));
+    ASSERT_TRUE(entity<igs116>(1));
+  }
+}
+
+TEST_F(ReadTest, BlankLinesAndLinesOutOfSequenceEachGiveOneErrorOfTheFile) {
+  FileText f = three_entities();
+  Lines d = f.directory();
+  Lines p = f.parameters();
+  struct Case {
+    char const* what;
+    Lines lines;
+    Lines errors;
+  };
+  auto renumbered = [](std::string line, int number) {
+    return line.replace(73, 7, right(number, 7));
+  };
+  Lines const blank = {"igsFileBlankLine"};
+  Lines const sequence = {"igsFileInvalidLineNumbers"};
+  std::vector<Case> cases = {
+      {"blank line in front of the Global section",
+       f.start() + Lines{""} + f.global() + d + p + f.terminate(), blank},
+      {"blank line in front of the first D line",
+       f.start() + f.global() + Lines{"  "} + d + p + f.terminate(), blank},
+      {"blank line between D entries",
+       f.start() + f.global() + Lines{d[0], d[1], "", d[2], d[3], d[4], d[5]} + p + f.terminate(),
+       blank},
+      {"blank line in front of the first P line",
+       f.start() + f.global() + d + Lines{""} + p + f.terminate(), blank},
+      {"blank line inside a record",
+       f.start() + f.global() + d + Lines{p[0], p[1], "\t", p[2], p[3]} + f.terminate(), blank},
+      {"blank line in front of a record",
+       f.start() + f.global() + d + Lines{p[0], p[1], p[2], "", p[3]} + f.terminate(), blank},
+      {"blank line in front of the T line",
+       f.start() + f.global() + d + p + Lines{""} + f.terminate(), blank},
+      {"first line of a D entry out of sequence",
+       f.start() + f.global() + Lines{d[0], d[1], renumbered(d[2], 9), d[3], d[4], d[5]} + p +
+           f.terminate(),
+       sequence},
+      {"second line of a D entry out of sequence",
+       f.start() + f.global() + Lines{d[0], renumbered(d[1], 7), d[2], d[3], d[4], d[5]} + p +
+           f.terminate(),
+       sequence},
+      {"first line of a record out of sequence",
+       f.start() + f.global() + d + Lines{p[0], renumbered(p[1], 7), p[2], p[3]} + f.terminate(),
+       sequence},
+      {"later line of a record out of sequence",
+       f.start() + f.global() + d + Lines{p[0], p[1], renumbered(p[2], 1), p[3]} + f.terminate(),
+       sequence},
+      {"both, twice each",
+       f.start() + Lines{""} + f.global() + d + Lines{p[0], "", renumbered(p[1], 7), p[2]} +
+           Lines{renumbered(p[3], 1)} + f.terminate(),
+       Lines{"igsFileInvalidLineNumbers", "igsFileBlankLine"}},
+  };
+  for (Case const& c : cases) {
+    SCOPED_TRACE(c.what);
+    file = std::make_unique<igsFile>();
+    file->set_message_stream(&messages);
+    EXPECT_EQ(read(c.lines), 1);
+    EXPECT_EQ(file->num_entities(), 3);
+    EXPECT_EQ(errors(), c.errors);
+    EXPECT_EQ(entity<igs100>(5)->end_point(), giPoint2(0, 2));
+  }
+  // The repairs of the last case.
+  EXPECT_EQ(repaired(), "Warning : There were out of sequence line numbers found in this file.\n"
+                        "This may cause some data to be processed incorrectly.\n"
+                        "Warning : There are blank line(s) in this file.\n");
+}
+
+TEST_F(ReadTest, NullCharactersAreBlankedAndReportedForTheirLineOrEntity) {
+  FileText f = three_entities();
+  Lines d = f.directory();
+  Lines p = f.parameters();
+  auto nul = [](std::string line, size_t at) {
+    line[at] = '\0';
+    return line;
+  };
+  struct Case {
+    char const* what;
+    Lines lines;
+    Lines errors;
+  };
+  // A NUL stands in a blank column or in a number's place, where the blank that replaces it
+  // is passed over.
+  std::vector<Case> cases = {
+      {"first D line of the first entry",
+       f.start() + f.global() + Lines{nul(d[0], 0)} + Lines{d[1], d[2], d[3], d[4], d[5]} + p +
+           f.terminate(),
+       {"igsFileDENullCharacters(line=1)"}},
+      {"second D line of an entry",
+       f.start() + f.global() + Lines{d[0], d[1], d[2], nul(d[3], 50), d[4], d[5]} + p +
+           f.terminate(),
+       {"igsFileDENullCharacters(line=3)"}},
+      {"first D line of a later entry",
+       f.start() + f.global() + Lines{d[0], d[1], nul(d[2], 1), d[3], d[4], d[5]} + p +
+           f.terminate(),
+       {"igsFileDENullCharacters(line=3)"}},
+      {"first P line of a later record",
+       f.start() + f.global() + d + Lines{p[0], nul(p[1], 63), p[2], p[3]} + f.terminate(),
+       {"igsFilePDNullCharacters(de_number=3)"}},
+      {"later P line of a record",
+       f.start() + f.global() + d + Lines{p[0], p[1], nul(p[2], 63), p[3]} + f.terminate(),
+       {"igsFilePDNullCharacters(de_number=3)"}},
+      {"first P line of the last record, whose previous ends in its last column",
+       f.start() + f.global() + d +
+           Lines{p[0], p[1], record('P', 3, std::string(55, ' ') + "4.,5.,6.;", 3), nul(p[3], 40)} +
+           f.terminate(),
+       {"igsFilePDNullCharacters(de_number=5)"}},
+      {"first D line of the last entry and the first P line behind it",
+       f.start() + f.global() + Lines{d[0], d[1], d[2], d[3], nul(d[4], 0), d[5]} +
+           Lines{nul(p[0], 60), p[1], p[2], p[3]} + f.terminate(),
+       {"igsFileDENullCharacters(line=5)", "igsFilePDNullCharacters(de_number=1)"}},
+  };
+  for (Case const& c : cases) {
+    SCOPED_TRACE(c.what);
+    file = std::make_unique<igsFile>();
+    file->set_message_stream(&messages);
+    EXPECT_EQ(read(c.lines), 1);
+    EXPECT_EQ(file->num_entities(), 3);
+    EXPECT_EQ(errors(), c.errors);
+    // The values are those of the sound file.
+    EXPECT_EQ(entity<igs116>(1)->point(), giPoint3(1, 2, 3));
+    EXPECT_EQ(entity<igs110>(3)->end_point(), giPoint3(4, 5, 6));
+    EXPECT_EQ(entity<igs100>(5)->end_point(), giPoint2(0, 2));
+  }
+  // The repairs of the last case.
+  EXPECT_EQ(repaired(), "Warning : There were null characters found in line 5 of the Directory "
+                        "Entry section.\nThese have been replaced with spaces.\n"
+                        "Warning : There were null characters found in the Parameter Data for "
+                        "DE 1.\nThese have been replaced with spaces.\n");
+}
+
+// The lines of the text from the line that is `header` at the indent to the "}" that closes it
+// at the same indent, taken out to the left margin.
+std::string block(std::string const& text, std::string const& header, size_t indent) {
+  std::string margin(indent, ' ');
+  size_t from = text.find("\n" + margin + header + "\n");
+  size_t to = text.find("\n" + margin + "}\n", from);
+  if (from == std::string::npos || to == std::string::npos) return "";
+  std::string lines = text.substr(from + 1, to + indent + 3 - (from + 1));
+  std::string out;
+  for (size_t at = 0; at < lines.size();) {
+    size_t end = lines.find('\n', at);
+    out += lines.substr(at + indent, end - at - indent + 1);
+    at = end + 1;
+  }
+  return out;
+}
+
+// What a small file of ours prints: the frame of the file, each Directory Entry, the entity
+// labels, and an entity printed in full only where it is first met.
+std::string const three_entities_print = R"(IgesFile = {
+  Pathname = ""
+  NoOfLinesInStartSection = 1
+  StartSection = {
+    1 = "A file made for the reading tests.                                      "
+  }
+  GlobalSection = {
+    ParameterDelimiter = ,
+    RecordDelimiter = ;
+    ProductIdSendingSystem = "Product"
+    FileName = "part.igs"
+    SystemId = "Sender"
+    PreprocessorVersion = "5.3a"
+    BinaryBitsForInteger = 32
+    SinglePrecisionMagnitude = 38
+    FloatSignificantFigs = 6
+    DoublePowerOf10 = 308
+    DoubleSignificantFigs = 15
+    ProductIdReceivingSystem = "Receive"
+    ModelSpaceScale = 1
+    UnitsFlag = 2
+    Units = MM
+    LineWeightGraduations = 8
+    MaxLineWeightWidth = 0.7
+    GenerationDate = "20240102.030405"
+    MinimumResolution = 0.001
+    MaxCoordinateValue = 500
+    AuthorsName = "Author"
+    AuthorsOrganization = "Org"
+    IGESVersion = 11
+    DraftingStandard = 0
+    ModificationDate = "20240203.040506"
+  }
+  NoOfEntities = 3
+  Entities = {
+    @1(116) = {
+      DirectoryEntry = {
+        EntityTypeNumber = 116(Point)
+        Structure = 0
+        LineFontPattern = 0(No pattern specified)
+        Level = 0
+        View = AllViews
+        TransformationMatrix = IdentityMatrix
+        LabelDisplayAssociativity = Unsupported
+        BlankStatus = 0(Visible)
+        SubordinateStatus = 0(Independent)
+        EntityUse = 0(Geometry)
+        Hierarchy = 0(Global top down)
+        LineWeightNumber = 0
+        Colour = 0(No color assigned)
+        FormNumber = 0(Default)
+        EntityLabel = "        "
+        EntitySubscript = 0
+      }
+      Coordinates = (1, 2, 3)
+      DisplaySymbol = {
+        @5(100) = {
+          DirectoryEntry = {
+            EntityTypeNumber = 100(Circular Arc)
+            Structure = 0
+            LineFontPattern = 0(No pattern specified)
+            Level = 0
+            View = AllViews
+            TransformationMatrix = IdentityMatrix
+            LabelDisplayAssociativity = Unsupported
+            BlankStatus = 0(Visible)
+            SubordinateStatus = 0(Independent)
+            EntityUse = 0(Geometry)
+            Hierarchy = 0(Global top down)
+            LineWeightNumber = 0
+            Colour = 0(No color assigned)
+            FormNumber = 0(Default)
+            EntityLabel = "        "
+            EntitySubscript = 0
+          }
+          ZLevel = 1.5
+          Centre = (0, 0)
+          StartPoint = (2, 0)
+          EndPoint = (0, 2)
+        }
+      }
+    }
+    @3(110) = {
+      DirectoryEntry = {
+        EntityTypeNumber = 110(Line)
+        Structure = 0
+        LineFontPattern = 0(No pattern specified)
+        Level = 7
+        View = AllViews
+        TransformationMatrix = IdentityMatrix
+        LabelDisplayAssociativity = Unsupported
+        BlankStatus = 0(Visible)
+        SubordinateStatus = 0(Independent)
+        EntityUse = 0(Geometry)
+        Hierarchy = 0(Global top down)
+        LineWeightNumber = 0
+        Colour = 3(Green)
+        FormNumber = 0(Default)
+        EntityLabel = "    EDGE"
+        EntitySubscript = 12
+      }
+      StartPoint = (0, 0, 0)
+      EndPoint = (4, 5, 6)
+    }
+    @5(100) = {
+    }
+  }
+  TerminateSection = {
+    NoOfLinesInStartSection = 1
+    NoOfLinesInGlobalSection = 3
+    NoOfLinesInDirectorySection = 6
+    NoOfLinesInParameterSection = 4
+  }
+}
+)";
+
+TEST_F(ReadTest, PrintOfTheFileAndOfEachEntity) {
+  FileText f = three_entities();
+  EntityText& line = f.entity(3);
+  line.level = 7;
+  line.colour = 3;
+  line.label = "EDGE";
+  line.subscript = 12;
+  ASSERT_EQ(read(f.text()), 1);
+  std::string text = printed(*file);
+  EXPECT_EQ(text, three_entities_print);
+  // Each entity printed alone is what the file printed where the entity was first met.
+  EXPECT_EQ(printed(*entity<igs116>(1)), block(text, "@1(116) = {", 4));
+  EXPECT_EQ(printed(*entity<igs110>(3)), block(text, "@3(110) = {", 4));
+  EXPECT_EQ(printed(*entity<igs100>(5)), block(text, "@5(100) = {", 8));
+  EXPECT_EQ(block(text, "@5(100) = {", 4), "@5(100) = {\n}\n");
+}
+
+} // namespace

@@ -1,0 +1,472 @@
+// Writing whole files made by our own code: the exact text of a small one, the renumbering
+// after deletions, the records of the curve entities, the temporary file whatever happens to
+// the destination, the parametric precision and the limits of the line number fields. Every
+// written file passes the structural check.
+#include "core/objectTestSupport.h"
+#include "core/writtenFileCheck.h"
+
+#include "core/igsFileErrors.h"
+#include "entities/curves/igs100.h"
+#include "entities/curves/igs110.h"
+#include "entities/curves/igs116.h"
+#include "entities/curves/igsPointset.h"
+#include "entities/curves/igsPolyline.h"
+#include "entities/curves/igsSimpleClosedPlanarCurve.h"
+#include "support/kvuTempFile.h"
+
+#include <algorithm>
+#include <filesystem>
+#include <fstream>
+#include <vector>
+
+namespace {
+
+namespace fs = std::filesystem;
+
+// A Global section with fixed dates, so that a written file does not depend on today.
+void set_fixed_global_section(igsFile& file) {
+  igsGlobalSection global;
+  global.set_product_id_from_sending_system("igs test");
+  global.set_file_name("small.igs");
+  global.set_binary_bits_for_int(32);
+  global.set_sp_max_pow10(38);
+  global.set_sp_sig_digs(6);
+  global.set_dp_max_pow10(308);
+  global.set_dp_sig_digs(15);
+  global.set_units(igsUnits(utString("MM"), igsUnitMillimeter));
+  global.set_file_creation_date(igsDate(utString("20240102.030405")));
+  global.set_file_modification_date(igsDate(utString("20240102.030405")));
+  global.set_minimum_resolution(0.001);
+  global.set_max_coord_value(100.0);
+  global.set_iges_version(11);
+  file.set_global_section(global);
+}
+
+// A streambuf that takes `limit` bytes and refuses the rest, as a disk that fills up.
+class LimitedBuffer : public std::streambuf {
+ public:
+  explicit LimitedBuffer(size_t limit) : m_limit(limit) {}
+  std::string const& text() const { return m_text; }
+
+ protected:
+  int_type overflow(int_type c) override {
+    if (traits_type::eq_int_type(c, traits_type::eof())) return traits_type::not_eof(c);
+    if (m_text.size() >= m_limit) return traits_type::eof();
+    m_text += traits_type::to_char_type(c);
+    return c;
+  }
+  std::streamsize xsputn(char const* s, std::streamsize n) override {
+    size_t room = m_limit - m_text.size();
+    size_t taken = static_cast<size_t>(n) < room ? static_cast<size_t>(n) : room;
+    m_text.append(s, taken);
+    return static_cast<std::streamsize>(taken);
+  }
+
+ private:
+  size_t m_limit;
+  std::string m_text;
+};
+
+// Sets a resource key for the span of a test.
+template <class T> class KeyScope {
+ public:
+  KeyScope(coResourceKey<T> const& key, T value) : m_key(key) {
+    kvn_resource_table_inquire()->set(key, value);
+  }
+  ~KeyScope() { kvn_resource_table_inquire()->reset(m_key); }
+  KeyScope(KeyScope const&) = delete;
+  KeyScope& operator=(KeyScope const&) = delete;
+
+ private:
+  coResourceKey<T> const& m_key;
+};
+
+class WriteTest : public FileTest {
+ protected:
+  WriteTest() {
+    // A folder of its own next to a name nothing else uses, so that it holds only what the
+    // test's writes leave there.
+    fs::path unique(kvu_make_temp_file_name(utString("")).c_str());
+    fs::path dir = unique.string() + ".d";
+    fs::create_directory(dir);
+    fs::remove(unique);
+    write_dir = dir;
+    file->set_write_dir(utString(dir.string()));
+    file->set_message_stream(&messages);
+    set_fixed_global_section(*file);
+  }
+  ~WriteTest() override {
+    std::error_code ec;
+    fs::remove_all(write_dir, ec);
+  }
+
+  // Writes the file, expecting the result; the text is checked when the write succeeds, and
+  // either way no temporary file stays behind.
+  std::string written(int expected = 1) {
+    std::ostringstream text;
+    std::ostringstream notes;
+    utOstream out(notes);
+    EXPECT_EQ(file->write(text, out), expected);
+    if (expected) {
+      EXPECT_EQ(igs_test::written_file_faults(text.str()), std::vector<std::string>{});
+    }
+    EXPECT_TRUE(fs::is_empty(write_dir));
+    return text.str();
+  }
+
+  static igs116* point(giPoint3 const& at) {
+    auto* p = new igs116;
+    p->set_point(at);
+    return p;
+  }
+  static igs110* line(giPoint3 const& start, giPoint3 const& end) {
+    auto* l = new igs110;
+    l->set_start_point(start);
+    l->set_end_point(end);
+    return l;
+  }
+  static igs100* arc(double z, giPoint2 const& centre, giPoint2 const& start, giPoint2 const& end) {
+    auto* a = new igs100;
+    a->set_z_level(z);
+    a->set_centre(centre);
+    a->set_start_point(start);
+    a->set_end_point(end);
+    return a;
+  }
+  // A point set or polyline of the interpretation flag: planar points take the common Z.
+  template <class List>
+  static List* tuples(typename List::Dim dim, std::vector<giPoint3> const& points, double z = 0.0) {
+    auto* list = new List;
+    list->set_dimensionality(dim);
+    if (dim == 1) list->set_z_level(z);
+    for (int i = 0; i < static_cast<int>(points.size()); ++i) {
+      giPoint3 const& p = points[i];
+      if (dim == 1)
+        list->set_point_planar(i, giPoint2(p.x(), p.y()));
+      else if (dim == 2)
+        list->set_point_3d(i, p);
+      else
+        list->set_point_vector(i, p, giVector3(0.0, 0.0, 1.0));
+    }
+    return list;
+  }
+
+  // The lines of one section, without their LF.
+  static std::vector<std::string> section_lines(std::string const& text, char letter) {
+    std::vector<std::string> lines;
+    for (size_t at = 0; at + 81 <= text.size(); at += 81)
+      if (text[at + 72] == letter) lines.push_back(text.substr(at, 80));
+    return lines;
+  }
+  // The record of a DE number: columns 1 to 64 of its P lines, each without trailing blanks,
+  // joined. Fields never break over a line end, so this is the record as it was written.
+  static std::string record(std::string const& text, int de) {
+    std::string joined;
+    for (std::string const& line : section_lines(text, 'P'))
+      if (igs_test::fixed_number(std::string_view(line).substr(65, 7)) == de) {
+        std::string data = line.substr(0, 64);
+        joined += data.substr(0, data.find_last_not_of(' ') + 1);
+      }
+    return joined;
+  }
+  // A field of the D lines of a DE number, by line (1 or 2) and first column.
+  static std::optional<int> de_field(std::string const& text, int de, int line, int column) {
+    std::vector<std::string> lines = section_lines(text, 'D');
+    std::string const& l = lines.at(static_cast<size_t>(de - 1 + line - 1));
+    return igs_test::fixed_number(std::string_view(l).substr(static_cast<size_t>(column - 1), 8));
+  }
+
+  fs::path write_dir;
+  kvnabsStringOutput messages;
+};
+
+std::string const small_file =
+    "A small file written by the tests.                                      S      1\n"
+    "1H,,1H;,8Higs test,9Hsmall.igs,7HUnknown,7HUnknown,32,38,6,308,15,7HUnknG      1\n"
+    "own,1.,2,2HMM,1,0.,15H20240102.030405,0.001,100.,7HUnknown,7HUnknown,11,G      2\n"
+    "0,15H20240102.030405;                                                   G      3\n"
+    "     116       1       0       1       7       0       0       000000000D      1\n"
+    "     116       0       0       1       0                      PT       2D      2\n"
+    "     110       2       0       2       0       0       0       000010001D      3\n"
+    "     110       3       2       1       0                               0D      4\n"
+    "     100       3       0       1       0       1       0       300000000D      5\n"
+    "     100       0       0       1       0                               0D      6\n"
+    "116,1.,2.5,-3.,0;                                                      1P      1\n"
+    "110,0.,0.,0.,10.,0.,0.125;                                             3P      2\n"
+    "100,0.,0.,0.,1.,0.,0.,1.;                                              5P      3\n"
+    "S      1G      3D      6P      3                                        T      1\n";
+
+TEST_F(WriteTest, ASmallFileIsWrittenExactly) {
+  igsStartSection start;
+  start.set_line(0, "A small file written by the tests.");
+  file->set_start_section(start);
+  igs116* p = point(giPoint3(1.0, 2.5, -3.0));
+  EXPECT_EQ(p->directory_entry().set_level(igsLevel(7)), 1);
+  EXPECT_EQ(p->directory_entry().set_entity_label("PT"), 1);
+  EXPECT_EQ(p->directory_entry().set_entity_subscript(2), 1);
+  igs110* l = line(giPoint3(0.0, 0.0, 0.0), giPoint3(10.0, 0.0, 0.125));
+  EXPECT_EQ(l->directory_entry().set_line_font(igsLineFont(igsDashed)), 1);
+  EXPECT_EQ(l->directory_entry().set_colour(igsColour(igsRed)), 1);
+  EXPECT_EQ(l->directory_entry().set_line_weight_number(3), 1);
+  EXPECT_EQ(l->directory_entry().set_status_flags(igsStatusFlags(0, 1, 0, 1)), 1);
+  igs100* a = arc(0.0, giPoint2(0.0, 0.0), giPoint2(1.0, 0.0), giPoint2(0.0, 1.0));
+  EXPECT_EQ(a->directory_entry().set_view(igsObjectPtr(p)), 1);
+  a->directory_entry().set_label_display(igsObjectPtr(l));
+  EXPECT_EQ(written(), small_file);
+  // The file's Terminate section now holds the counts written.
+  igsTerminateSection const& counts = file->terminate_section();
+  EXPECT_EQ(std::vector<int>({counts.start_lines(), counts.global_lines(), counts.directory_lines(),
+                              counts.parameter_lines()}),
+            std::vector<int>({1, 3, 6, 3}));
+  // Writing is repeatable: nothing changed, so nothing changes in the text.
+  EXPECT_EQ(written(), small_file);
+}
+
+TEST_F(WriteTest, AnEmptyFileHasNoDirectoryOrParameterLines) {
+  std::string text = written();
+  EXPECT_EQ(section_lines(text, 'D').size(), 0u);
+  EXPECT_EQ(section_lines(text, 'P').size(), 0u);
+  EXPECT_EQ(section_lines(text, 'T'), std::vector<std::string>{"S      1G      3D      0P      0" +
+                                                               std::string(40, ' ') + "T      1"});
+  // The Start section of a new file is one blank line.
+  EXPECT_EQ(text.substr(0, 81), std::string(72, ' ') + "S      1\n");
+}
+
+TEST_F(WriteTest, DeletedEntitiesLeaveNoGapAndReferencesFollowTheirTargets) {
+  igs116* first = point(giPoint3(0.0, 0.0, 0.0));                        // DE 1, stays 1
+  igs110* gone = line(giPoint3(0.0, 0.0, 0.0), giPoint3(0.0, 0.0, 0.0)); // DE 3, deleted
+  igs100* circle = arc(1.0, giPoint2(0.0, 0.0), giPoint2(2.0, 0.0), giPoint2(2.0, 0.0)); // 5 -> 3
+  igs116* target = point(giPoint3(1.0, 1.0, 1.0));                           // DE 7, deleted
+  igs110* labelled = line(giPoint3(0.0, 0.0, 0.0), giPoint3(1.0, 0.0, 0.0)); // 9 -> 5
+  igs116* last = point(giPoint3(2.0, 2.0, 2.0));                             // DE 11 -> 7
+  labelled->directory_entry().set_label_display(igsObjectPtr(last));
+  last->directory_entry().set_view(igsObjectPtr(target));
+  circle->directory_entry().set_label_display(igsObjectPtr(first));
+  first->directory_entry().set_view(igsObjectPtr(labelled));
+  // An error logged now keeps the DE number the line has now.
+  file->check();
+  ASSERT_EQ(gone->num_logged_errors(), 1);
+  delete gone;
+  delete target;
+  ASSERT_EQ(object_log().num_errors(3), 1);
+
+  std::string text = written();
+  EXPECT_EQ(std::vector<int>({first->de_number(), circle->de_number(), labelled->de_number(),
+                              last->de_number()}),
+            std::vector<int>({1, 3, 5, 7}));
+  EXPECT_EQ(section_lines(text, 'D').size(), 8u);
+  // View in columns 41-48 of the first line, label display in 57-64.
+  EXPECT_EQ(de_field(text, 1, 1, 41), 5);
+  EXPECT_EQ(de_field(text, 3, 1, 57), 1);
+  EXPECT_EQ(de_field(text, 5, 1, 57), 7);
+  EXPECT_EQ(de_field(text, 7, 1, 41), 0); // its view was deleted
+  EXPECT_EQ(record(text, 3), "100,1.,0.,0.,2.,0.,2.,0.;");
+  EXPECT_EQ(record(text, 7), "116,2.,2.,2.,0;");
+  // The error still names DE 3, which is now the arc's number.
+  EXPECT_EQ(object_log().num_errors(3), 1);
+  EXPECT_EQ(circle->num_logged_errors(), 1);
+}
+
+TEST_F(WriteTest, CopiousDataRecordsFollowTheirFlagAndForm) {
+  std::vector<giPoint3> const three = {giPoint3(0.0, 0.0, 2.0), giPoint3(1.0, 0.0, 2.0),
+                                       giPoint3(1.0, 1.5, 2.0)};
+  tuples<igsPolyline>(igsPolylineXYCommonZ, three, 2.0);
+  tuples<igsPolyline>(igsPolylineXYZ, three);
+  tuples<igsPolyline>(igsPolylineXYZIJK, {three[0]});
+  tuples<igsPointset>(igsPointsetXYCommonZ, {three[0]}, -1.0);
+  tuples<igsPointset>(igsPointsetXYZ, {three[2]});
+  tuples<igsPointset>(igsPointsetXYZIJK, {three[1], three[2]});
+  auto* closed = new igsSimpleClosedPlanarCurve;
+  closed->set_z_level(0.5);
+  for (int i = 0; i < 4; ++i) closed->set_point(i, giPoint2(i % 3, i / 2));
+  std::string text = written();
+
+  struct Expected {
+    int form;
+    char const* record;
+  };
+  std::vector<Expected> const expected = {
+      {11, "106,1,3,2.,0.,0.,1.,0.,1.,1.5;"},
+      {12, "106,2,3,0.,0.,2.,1.,0.,2.,1.,1.5,2.;"},
+      {13, "106,3,1,0.,0.,2.,0.,0.,1.;"},
+      {1, "106,1,1,-1.,0.,0.;"},
+      {2, "106,2,1,1.,1.5,2.;"},
+      {3, "106,3,2,1.,0.,2.,0.,0.,1.,1.,1.5,2.,0.,0.,1.;"},
+      {63, "106,1,4,0.5,0.,0.,1.,0.,2.,1.,0.,1.;"},
+  };
+  for (size_t i = 0; i < expected.size(); ++i) {
+    int de = static_cast<int>(2 * i + 1);
+    EXPECT_EQ(de_field(text, de, 2, 33), expected[i].form) << "DE " << de;
+    EXPECT_EQ(record(text, de), expected[i].record) << "DE " << de;
+  }
+}
+
+TEST_F(WriteTest, ALongRecordRunsOverManyLinesWithItsCountInTheDirectoryEntry) {
+  std::vector<giPoint3> points;
+  std::string expected = "106,2,200";
+  for (int i = 0; i < 200; ++i) {
+    points.emplace_back(i, i + 0.5, 1000 + i);
+    expected +=
+        "," + std::to_string(i) + ".," + std::to_string(i) + ".5," + std::to_string(1000 + i) + ".";
+  }
+  point(giPoint3(0.0, 0.0, 0.0));
+  tuples<igsPolyline>(igsPolylineXYZ, points);
+  point(giPoint3(9.0, 9.0, 9.0));
+  std::string text = written();
+  std::optional<int> count = de_field(text, 3, 2, 25);
+  ASSERT_TRUE(count);
+  EXPECT_GT(*count, 20);
+  EXPECT_EQ(de_field(text, 3, 1, 9), 2);
+  EXPECT_EQ(de_field(text, 5, 1, 9), 2 + *count);
+  EXPECT_EQ(record(text, 3), expected + ";");
+  EXPECT_EQ(record(text, 5), "116,9.,9.,9.,0;");
+}
+
+// A node whose record moves the back pointer past its seven columns, as the record after the
+// five millionth entity would: so many entities do not fit into a unit test.
+class testFarNode : public testNode {
+ protected:
+  void write_pd_data(igsOutStream& out) override {
+    out.write_integer(1);
+    out.set_backpointer(igsOutBufferFormatter::max_number + 2);
+    out.write_integer(2);
+  }
+};
+
+TEST_F(WriteTest, NoTemporaryFileStaysWhateverHappensToTheDestination) {
+  point(giPoint3(1.0, 2.0, 3.0));
+  std::vector<giPoint3> points(40, giPoint3(0.125, 0.25, 0.5));
+  tuples<igsPolyline>(igsPolylineXYZ, points);
+  line(giPoint3(0.0, 0.0, 0.0), giPoint3(1.0, 1.0, 1.0));
+  std::string const full = written();
+  size_t const line = 81;
+  size_t const d_start = 4 * line;           // S and three G lines
+  size_t const p_start = d_start + 6 * line; // three entities
+  // The destination fails within S, G, D, the copied P lines and T; once also for a stream
+  // that would throw: nothing is thrown at the caller.
+  for (size_t limit : {size_t(0), size_t(40), 2 * line + 5, d_start + 100, p_start + 10,
+                       full.size() - line / 2, full.size() - 1}) {
+    for (bool throwing : {false, true}) {
+      LimitedBuffer buffer(limit);
+      std::ostream stream(&buffer);
+      if (throwing) stream.exceptions(std::ios::badbit | std::ios::failbit);
+      std::ostringstream notes;
+      utOstream out(notes);
+      EXPECT_EQ(file->write(stream, out), 0) << limit;
+      // A stream that would throw keeps its state: the codes of the failure stay inside.
+      EXPECT_EQ(stream.bad(), !throwing) << limit;
+      EXPECT_EQ(buffer.text(), full.substr(0, limit)) << limit;
+      EXPECT_TRUE(fs::is_empty(write_dir)) << limit;
+    }
+  }
+  // A destination that failed before the write takes nothing.
+  std::ostringstream failed;
+  failed.setstate(std::ios::failbit);
+  std::ostringstream notes;
+  utOstream out(notes);
+  EXPECT_EQ(file->write(failed, out), 0);
+  EXPECT_EQ(failed.str(), "");
+  // The file is unharmed: a good destination receives it whole again.
+  EXPECT_EQ(written(), full);
+}
+
+TEST_F(WriteTest, WithoutATemporaryFileNothingButStartAndGlobalIsWritten) {
+  point(giPoint3(1.0, 2.0, 3.0));
+  fs::path const regular = write_dir / "a file";
+  std::ofstream(regular) << "not a folder";
+  for (fs::path const& dir : {write_dir / "missing", regular}) {
+    file->set_write_dir(utString(dir.string()));
+    std::ostringstream text;
+    std::ostringstream notes;
+    utOstream out(notes);
+    EXPECT_EQ(file->write(text, out), 0);
+    EXPECT_EQ(section_lines(text.str(), 'S').size(), 1u);
+    EXPECT_EQ(section_lines(text.str(), 'G').size(), 3u);
+    EXPECT_EQ(text.str().size(), 4 * 81u);
+  }
+  EXPECT_FALSE(fs::exists(write_dir / "missing"));
+  EXPECT_EQ(std::distance(fs::directory_iterator(write_dir), fs::directory_iterator()), 1);
+}
+
+TEST_F(WriteTest, ParametricEntitiesAreWrittenWithTheParametricPrecision) {
+  KeyScope<int> parametric(kvnOptDoubleParametricPrecision, 4);
+  KeyScope<int> geometric(kvnOptDoubleGeometricPrecision, 9);
+  giPoint3 const start(1.23456789012, -0.000123456789, 98765.4321);
+  giPoint3 const end(0.5, 2.0, 1.0 / 3.0);
+  for (int use : {igsUseGeometry, igsUse2DParametric, igsUseConstructional}) {
+    igs110* l = line(start, end);
+    EXPECT_EQ(l->directory_entry().set_status_flags(igsStatusFlags(0, 0, use, 0)), 1);
+  }
+  std::string text = written();
+  char const* const geometric_record =
+      "110,1.23456789,-0.000123456789,98765.4321,0.5,2.,0.333333333;";
+  EXPECT_EQ(record(text, 1), geometric_record);
+  EXPECT_EQ(record(text, 3), "110,1.235,-0.0001235,9.877D+04,0.5,2.,0.3333;");
+  // The format is popped behind the parametric entity.
+  EXPECT_EQ(record(text, 5), geometric_record);
+}
+
+TEST_F(WriteTest, ABackPointerBeyondSevenDigitsFailsTheWriteWithItsError) {
+  point(giPoint3(1.0, 2.0, 3.0));
+  new testFarNode;
+  point(giPoint3(4.0, 5.0, 6.0));
+  // Another file is current; the error still goes to the log of the file written.
+  auto other = std::make_unique<igsFile>();
+  std::string text = written(0);
+  EXPECT_EQ(&igsObjectSystem::file(), other.get());
+  EXPECT_EQ(section_lines(text, 'D').size(), 0u);
+  EXPECT_EQ(section_lines(text, 'T').size(), 0u);
+  igsObjectSystem::set_current_file(*file);
+  std::vector<std::string> errors;
+  for (igsSimpleSectionLogIT it(&structure_log()); ++it;) {
+    errors.push_back(it()->objtype().name());
+    EXPECT_EQ(it()->fix(), 0);
+  }
+  EXPECT_EQ(errors, std::vector<std::string>{"igsFileBackPtrTooLarge"});
+  EXPECT_EQ(messages.text(),
+            "Error: IGES limit of 5 million entities exceeded.\nSee the Frequently Asked "
+            "Questions in the Help for more details");
+}
+
+TEST_F(WriteTest, TheStructuralCheckFindsTheFaultsOfDamagedFiles) {
+  ASSERT_EQ(igs_test::written_file_faults(small_file), std::vector<std::string>{});
+  // Each case changes the small file at one place: line (from 1), column (from 1), new text.
+  struct Damage {
+    int line;
+    int column;
+    std::string text;
+    std::string fault;
+  };
+  std::vector<Damage> const cases = {
+      {5, 73, "P", "line 6: section D out of order"},
+      {3, 80, "4", "line 3: sequence number '      4', expected 2"},
+      {5, 80, "3", "line 5: sequence number '      3', expected 1"},
+      {9, 73, "X", "line 9: section letter 'X'"},
+      {14, 16, "4", "line 14: T line says 'G      4' for 3 lines"},
+      {7, 8, "1", "line 7: entity types differ on the two D lines"},
+      {7, 16, "3", "line 12: DE 3 says lines 3+1, its record has 2+1"},
+      {10, 32, "2", "line 13: DE 5 says lines 3+2, its record has 3+1"},
+      {12, 72, "5", "line 12: back pointer '      5', expected 3"},
+      {11, 65, "X", "line 11: column 65 is not blank"},
+      {13, 1, "101", "line 13: record of DE 5 does not start with 100"},
+  };
+  for (Damage const& d : cases) {
+    std::string damaged = small_file;
+    damaged.replace(static_cast<size_t>((d.line - 1) * 81 + d.column - 1), d.text.size(), d.text);
+    std::vector<std::string> faults = igs_test::written_file_faults(damaged);
+    EXPECT_NE(std::find(faults.begin(), faults.end(), d.fault), faults.end())
+        << d.fault << "\nfound:\n"
+        << ::testing::PrintToString(faults);
+  }
+  // Lines of the wrong length, a missing line end, and a file without its T line.
+  std::string shortened = small_file;
+  shortened.erase(81 * 4 + 10, 1);
+  EXPECT_EQ(igs_test::written_file_faults(shortened),
+            std::vector<std::string>{"line 5: 79 columns"});
+  EXPECT_EQ(igs_test::written_file_faults(small_file.substr(0, small_file.size() - 1)),
+            std::vector<std::string>{"line 14: no line end"});
+  EXPECT_EQ(igs_test::written_file_faults(small_file.substr(0, small_file.size() - 81)),
+            std::vector<std::string>{"line 13: no T line"});
+}
+
+} // namespace
