@@ -143,7 +143,7 @@ std::string make_damaged(std::string const& clean) {
     if (section == 'T') {
       // The G count is one too many.
       int g = std::atoi(line.substr(9, 7).c_str());
-      char count[8];
+      char count[16];
       std::snprintf(count, sizeof count, "%7d", g + 1);
       line.replace(9, 7, count);
     }

@@ -110,8 +110,7 @@ std::optional<std::string> parse(int argc, char** argv, Options& o) {
   }
   if (positional.empty()) return "no command given (see igs --help)";
   o.command = positional[0];
-  if (o.command != "check" && o.command != "repair" && o.command != "print" &&
-      o.command != "stats")
+  if (o.command != "check" && o.command != "repair" && o.command != "print" && o.command != "stats")
     return "unknown command '" + o.command + "' (see igs --help)";
   if (positional.size() < 2) return "igs " + o.command + " needs a FILE";
   if (positional.size() > 2) return "too many arguments: '" + positional[2] + "'";
@@ -136,7 +135,8 @@ struct Progress {
     auto now = std::chrono::steady_clock::now();
     if (now - last < std::chrono::milliseconds(250)) return;
     last = now;
-    int percent = static_cast<int>(std::min(99.0, 100.0 * static_cast<double>(lines) / expected_lines));
+    int percent =
+        static_cast<int>(std::min(99.0, 100.0 * static_cast<double>(lines) / expected_lines));
     std::fprintf(stderr, "\rreading %3d%%", percent);
   }
   static void start(std::uintmax_t bytes) {
@@ -161,8 +161,25 @@ bool looks_binary(std::string const& head) {
   return !head.empty() && odd * 10 > head.size() * 3;
 }
 
+// Where the library's messages go: repair warnings of the file and the reader's line-level
+// warnings to standard error, or nowhere with --quiet.
+struct Messages {
+  kvnabsStreamOutput to_stderr{std::cerr};
+  kvnabsStringOutput discarded;
+  kvnabsOutput* sink = nullptr;
+  explicit Messages(bool quiet) {
+    sink = quiet ? static_cast<kvnabsOutput*>(&discarded) : &to_stderr;
+    get_igs_stream().set_error_stream(sink);
+    get_igs_stream().set_output_stream(sink);
+  }
+  ~Messages() {
+    get_igs_stream().set_error_stream(nullptr);
+    get_igs_stream().set_output_stream(nullptr);
+  }
+};
+
 // Opens and reads FILE into a new current igsFile. On failure, gives the message to print.
-std::unique_ptr<igsFile> load(Options const& o, std::string& problem) {
+std::unique_ptr<igsFile> load(Options const& o, Messages& messages_sink, std::string& problem) {
   std::error_code ec;
   fs::path path(o.file);
   if (!fs::exists(path, ec)) {
@@ -195,28 +212,25 @@ std::unique_ptr<igsFile> load(Options const& o, std::string& problem) {
 
   auto file = std::make_unique<igsFile>();
   igsObjectSystem::set_current_file(*file);
+  file->set_message_stream(messages_sink.sink);
   bool progress = !o.quiet && isatty(STDERR_FILENO);
   if (progress) Progress::start(ec ? 0 : size);
   std::ostringstream discard;
   utOstream messages(discard);
   int result = file->read(in, messages);
   if (progress) Progress::stop();
-  if (!result && file->num_entities() == 0) {
+  // A read that stopped early still counts when it met entities, known to us or not.
+  if (!result && file->num_entities() == 0 && file->num_nulls() == 0 && file->num_unknowns() == 0) {
     problem = "'" + o.file + "' could not be read as an IGES file";
     return nullptr;
   }
   return file;
 }
 
-// Warnings of repairs go to standard error, unless the user asked for quiet.
-struct WarningSink {
-  kvnabsStreamOutput out{std::cerr};
-  void attach(igsFile& file, bool quiet) { file.set_message_stream(quiet ? nullptr : &out); }
-};
-
 int command_check(Options const& o) {
   std::string problem;
-  auto file = load(o, problem);
+  Messages messages_sink(o.quiet);
+  auto file = load(o, messages_sink, problem);
   if (!file) {
     if (o.json)
       std::cout << "{\n  \"file\": " << tool_json_string(o.file)
@@ -250,16 +264,17 @@ std::multimap<std::string, int> identities(std::vector<ToolErrorRecord> const& e
 
 int command_repair(Options const& o) {
   std::string problem;
-  auto file = load(o, problem);
+  Messages messages_sink(o.quiet);
+  auto file = load(o, messages_sink, problem);
   if (!file) return fail(problem);
   fs::path out_path(o.output);
   fs::path folder = out_path.has_parent_path() ? out_path.parent_path() : fs::path(".");
   std::error_code ec;
-  if (!fs::is_directory(folder, ec)) return fail("cannot write '" + o.output + "': no folder '" + folder.string() + "'");
-  if (fs::is_directory(out_path, ec)) return fail("cannot write '" + o.output + "': it is a directory");
+  if (!fs::is_directory(folder, ec))
+    return fail("cannot write '" + o.output + "': no folder '" + folder.string() + "'");
+  if (fs::is_directory(out_path, ec))
+    return fail("cannot write '" + o.output + "': it is a directory");
 
-  WarningSink warnings;
-  warnings.attach(*file, o.quiet);
   file->check();
   auto found = tool_collect_errors(*file);
   std::vector<int> before;
@@ -300,11 +315,10 @@ int command_repair(Options const& o) {
     while (it != settled.end() && it->first == name && it->second != de) ++it;
     if (it != settled.end() && it->first == name) settled.erase(it);
   }
-  std::cout << "found " << found.size() << " errors (" << tool_section_counts_text(found)
-            << ")\n";
+  std::cout << "found " << found.size() << " errors (" << tool_section_counts_text(found) << ")\n";
   std::cout << "repaired " << settled.size() << " errors\n";
-  std::cout << "remaining " << remaining.size() << " errors (" << tool_section_counts_text(remaining)
-            << ")\n";
+  std::cout << "remaining " << remaining.size() << " errors ("
+            << tool_section_counts_text(remaining) << ")\n";
   tool_print_errors(std::cout, remaining);
   std::cout << "removed " << removed.size() << " entities";
   for (size_t i = 0; i < removed.size(); ++i) std::cout << (i ? ", " : ": DE ") << removed[i];
@@ -314,7 +328,8 @@ int command_repair(Options const& o) {
 
 int command_print(Options const& o) {
   std::string problem;
-  auto file = load(o, problem);
+  Messages messages_sink(o.quiet);
+  auto file = load(o, messages_sink, problem);
   if (!file) return fail(problem);
   utOstream out(std::cout);
   if (!o.de) {
@@ -332,7 +347,8 @@ int command_print(Options const& o) {
 
 int command_stats(Options const& o) {
   std::string problem;
-  auto file = load(o, problem);
+  Messages messages_sink(o.quiet);
+  auto file = load(o, messages_sink, problem);
   if (!file) return fail(problem);
   igsGlobalSection const& g = file->global_section();
   igsTerminateSection const& t = file->terminate_section();
@@ -345,7 +361,8 @@ int command_stats(Options const& o) {
             << "\n";
   int version = g.iges_version();
   std::cout << "IGES version: " << version;
-  if (igsInfoDB::version_exists(version)) std::cout << " (" << text(igsInfoDB::version_name(version)) << ")";
+  if (igsInfoDB::version_exists(version))
+    std::cout << " (" << text(igsInfoDB::version_name(version)) << ")";
   std::cout << "\n";
   int units = g.units().type();
   std::cout << "units: " << units;

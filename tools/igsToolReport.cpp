@@ -17,7 +17,7 @@ namespace {
 
 // Collects the constructor arguments of one error, as JSON values and as text.
 class ArgumentCollector : public igsErrorArgumentVisitor {
-public:
+ public:
   explicit ArgumentCollector(ToolErrorRecord& record) : m_record(record) {}
   void argument(char const* name, int value) override {
     add(name, std::to_string(value), std::to_string(value));
@@ -38,7 +38,7 @@ public:
     add(name, tool_json_string(text), "\"" + text + "\"");
   }
 
-private:
+ private:
   void add(char const* name, std::string json, std::string text) {
     m_record.arguments_json.emplace_back(name, std::move(json));
     m_record.arguments_text.emplace_back(name, std::move(text));
@@ -129,11 +129,21 @@ std::string tool_json_string(std::string const& text) {
   std::string json = "\"";
   for (unsigned char c : text) {
     switch (c) {
-    case '"': json += "\\\""; break;
-    case '\\': json += "\\\\"; break;
-    case '\n': json += "\\n"; break;
-    case '\r': json += "\\r"; break;
-    case '\t': json += "\\t"; break;
+    case '"':
+      json += "\\\"";
+      break;
+    case '\\':
+      json += "\\\\";
+      break;
+    case '\n':
+      json += "\\n";
+      break;
+    case '\r':
+      json += "\\r";
+      break;
+    case '\t':
+      json += "\\t";
+      break;
     default:
       if (c < 0x20 || c >= 0x7f) {
         // Bytes outside printable ASCII are written as escapes, so any file gives valid JSON.

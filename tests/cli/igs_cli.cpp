@@ -16,14 +16,14 @@ namespace fs = std::filesystem;
 
 namespace {
 
-struct Run {
-  int status = -1;    // exit status, or -1 when the tool did not exit normally (a crash)
-  std::string out;    // standard output
-  std::string err;    // standard error
+struct ToolRun {
+  int status = -1; // exit status, or -1 when the tool did not exit normally (a crash)
+  std::string out; // standard output
+  std::string err; // standard error
 };
 
 class CliTest : public ::testing::Test {
-protected:
+ protected:
   void SetUp() override {
     folder = fs::temp_directory_path() /
              ("igs-cli-" + std::to_string(getpid()) + "-" +
@@ -36,13 +36,13 @@ protected:
   }
 
   // Runs the tool with the arguments (already quoted where needed).
-  Run igs(std::string const& arguments) const {
+  ToolRun igs(std::string const& arguments) const {
     return run(std::string("'") + IGS_TOOL_PATH + "' " + arguments);
   }
-  Run run(std::string const& command) const {
+  ToolRun run(std::string const& command) const {
     fs::path out = folder / "stdout.txt", err = folder / "stderr.txt";
     int raw = std::system((command + " >'" + out.string() + "' 2>'" + err.string() + "'").c_str());
-    Run r;
+    ToolRun r;
     r.status = WIFEXITED(raw) ? WEXITSTATUS(raw) : -1;
     r.out = igs_test::read_file(out);
     r.err = igs_test::read_file(err);
@@ -60,7 +60,7 @@ protected:
 };
 
 TEST_F(CliTest, SamplesAreWhatTheGeneratorWrites) {
-  Run r = run(std::string("'") + IGS_MAKE_SAMPLES_PATH + "' " + quoted(folder));
+  ToolRun r = run(std::string("'") + IGS_MAKE_SAMPLES_PATH + "' " + quoted(folder));
   ASSERT_EQ(r.status, 0) << r.err;
   for (char const* name : {"bracket.igs", "bracket-damaged.igs"})
     EXPECT_EQ(igs_test::read_file(folder / name), igs_test::read_file(sample(name)))
@@ -68,70 +68,70 @@ TEST_F(CliTest, SamplesAreWhatTheGeneratorWrites) {
 }
 
 TEST_F(CliTest, CheckCleanAndDamagedSamples) {
-  Run clean = igs("check " + quoted(sample("bracket.igs")));
+  ToolRun clean = igs("check " + quoted(sample("bracket.igs")));
   EXPECT_EQ(clean.status, 0) << clean.out << clean.err;
-  EXPECT_NE(clean.out.find(": 14 entities; 0 errors"), std::string::npos) << clean.out;
+  EXPECT_NE(clean.out.find(": 12 entities; 0 errors"), std::string::npos) << clean.out;
 
-  Run damaged = igs("check " + quoted(sample("bracket-damaged.igs")));
+  ToolRun damaged = igs("check " + quoted(sample("bracket-damaged.igs")));
   EXPECT_EQ(damaged.status, 1) << damaged.err;
-  for (char const* expected : {"igsFileBlankLine", "igsTerminateSectionBadCount",
-                               "terminate errors", ": 14 entities;"})
+  for (char const* expected :
+       {"igsFileBlankLine", "igsTerminateSectionBadCount", "terminate errors", ": 12 entities;"})
     EXPECT_NE(damaged.out.find(expected), std::string::npos) << expected << "\n" << damaged.out;
 }
 
 TEST_F(CliTest, RepairWritesAFileThatChecksClean) {
   fs::path out = folder / "repaired.igs";
-  Run r = igs("repair " + quoted(sample("bracket-damaged.igs")) + " -o " + quoted(out));
+  ToolRun r = igs("repair " + quoted(sample("bracket-damaged.igs")) + " -o " + quoted(out));
   EXPECT_EQ(r.status, 0) << r.out << r.err;
   EXPECT_NE(r.out.find("remaining 0 errors"), std::string::npos) << r.out;
   EXPECT_NE(r.out.find("removed 0 entities"), std::string::npos) << r.out;
   // The repair told what it did on standard error.
   EXPECT_NE(r.err.find("Warning : There are blank line(s) in this file."), std::string::npos)
       << r.err;
-  Run again = igs("check " + quoted(out));
+  ToolRun again = igs("check " + quoted(out));
   EXPECT_EQ(again.status, 0) << again.out;
   // The repaired file holds what the clean sample holds.
-  Run stats_repaired = igs("stats " + quoted(out));
-  Run stats_clean = igs("stats " + quoted(sample("bracket.igs")));
+  ToolRun stats_repaired = igs("stats " + quoted(out));
+  ToolRun stats_clean = igs("stats " + quoted(sample("bracket.igs")));
   auto entities = [](std::string const& s) { return s.substr(s.find("entities:")); };
   EXPECT_EQ(entities(stats_repaired.out), entities(stats_clean.out));
 
   // The input is never overwritten unless -o names it.
-  Run no_output = igs("repair " + quoted(sample("bracket-damaged.igs")));
+  ToolRun no_output = igs("repair " + quoted(sample("bracket-damaged.igs")));
   EXPECT_EQ(no_output.status, 2);
   EXPECT_NE(no_output.err.find("needs -o OUT"), std::string::npos);
 }
 
 TEST_F(CliTest, JsonReportParsesAndNamesItsFields) {
-  Run r = igs("check --json " + quoted(sample("bracket-damaged.igs")));
+  ToolRun r = igs("check --json " + quoted(sample("bracket-damaged.igs")));
   EXPECT_EQ(r.status, 1);
   EXPECT_TRUE(json_valid(r.out)) << r.out;
-  for (char const* field : {"\"file\"", "\"readable\": true", "\"entities\": 14",
-                            "\"error_counts\"", "\"errors\"", "\"section\": \"terminate\"",
-                            "\"class\": \"igsFileBlankLine\"", "\"arguments\""})
+  for (char const* field :
+       {"\"file\"", "\"readable\": true", "\"entities\": 12", "\"error_counts\"", "\"errors\"",
+        "\"section\": \"terminate\"", "\"class\": \"igsFileBlankLine\"", "\"arguments\""})
     EXPECT_NE(r.out.find(field), std::string::npos) << field;
-  Run missing = igs("check --json " + quoted(folder / "nothing.igs"));
+  ToolRun missing = igs("check --json " + quoted(folder / "nothing.igs"));
   EXPECT_EQ(missing.status, 2);
   EXPECT_TRUE(json_valid(missing.out)) << missing.out;
   EXPECT_NE(missing.out.find("\"readable\": false"), std::string::npos);
 }
 
 TEST_F(CliTest, PrintAndStats) {
-  Run whole = igs("print " + quoted(sample("bracket.igs")));
+  ToolRun whole = igs("print " + quoted(sample("bracket.igs")));
   EXPECT_EQ(whole.status, 0);
   EXPECT_EQ(whole.out.rfind("IgesFile = {", 0), 0u) << whole.out.substr(0, 200);
-  Run one = igs("print --de 1 " + quoted(sample("bracket.igs")));
+  ToolRun one = igs("print --de 1 " + quoted(sample("bracket.igs")));
   EXPECT_EQ(one.status, 0);
   EXPECT_EQ(one.out.rfind("@1(116) = {", 0), 0u) << one.out;
   EXPECT_NE(one.out.find("Coordinates = (20, 30, 0)"), std::string::npos) << one.out;
-  Run none = igs("print --de 999 " + quoted(sample("bracket.igs")));
+  ToolRun none = igs("print --de 999 " + quoted(sample("bracket.igs")));
   EXPECT_EQ(none.status, 2);
 
-  Run stats = igs("stats " + quoted(sample("bracket.igs")));
+  ToolRun stats = igs("stats " + quoted(sample("bracket.igs")));
   EXPECT_EQ(stats.status, 0);
   for (char const* expected : {"sending system: igs | igs 0.1.0", "units: 2 (Millimeters)",
-                               "IGES version: 11 (5.3)", "created: 20261101.120000",
-                               "entities: 14", "Circular Arc", "Copious Data(Piecewise Linear"})
+                               "IGES version: 11 (5.3)", "created: 20261101.120000", "entities: 12",
+                               "Circular Arc", "Copious Data(Piecewise Linear"})
     EXPECT_NE(stats.out.find(expected), std::string::npos) << expected << "\n" << stats.out;
 }
 
@@ -162,7 +162,7 @@ TEST_F(CliTest, BadUseGivesOneLineAndAStatus) {
       {"--version", 0, nullptr},
   };
   for (auto const& c : cases) {
-    Run r = igs(c.arguments);
+    ToolRun r = igs(c.arguments);
     EXPECT_EQ(r.status, c.status) << c.arguments << "\n" << r.err;
     if (c.message) {
       EXPECT_NE(r.err.find(c.message), std::string::npos) << c.arguments << "\n" << r.err;
@@ -174,7 +174,7 @@ TEST_F(CliTest, BadUseGivesOneLineAndAStatus) {
   if (geteuid() != 0) { // permissions do not stop root
     fs::path locked = write("locked.igs", igs_test::read_file(sample("bracket.igs")));
     fs::permissions(locked, fs::perms::none);
-    Run r = igs("check " + quoted(locked));
+    ToolRun r = igs("check " + quoted(locked));
     EXPECT_EQ(r.status, 2);
     EXPECT_NE(r.err.find("cannot open"), std::string::npos) << r.err;
   }
@@ -183,15 +183,17 @@ TEST_F(CliTest, BadUseGivesOneLineAndAStatus) {
 TEST_F(CliTest, EveryRealFileChecksAndRepairsWithoutACrash) {
   IGS_REQUIRE_CORPUS(files);
   for (auto const& path : files) {
-    Run check = igs("check --quiet " + quoted(path));
+    ToolRun check = igs("check --quiet " + quoted(path));
     EXPECT_TRUE(check.status == 0 || check.status == 1)
-        << path.filename() << " status " << check.status << "\n" << check.err;
-    Run json = igs("check --json --quiet " + quoted(path));
+        << path.filename() << " status " << check.status << "\n"
+        << check.err;
+    ToolRun json = igs("check --json --quiet " + quoted(path));
     EXPECT_TRUE(json_valid(json.out)) << path.filename();
     fs::path out = folder / "out.igs";
-    Run repair = igs("repair --quiet " + quoted(path) + " -o " + quoted(out));
+    ToolRun repair = igs("repair --quiet " + quoted(path) + " -o " + quoted(out));
     EXPECT_TRUE(repair.status == 0 || repair.status == 1)
-        << path.filename() << " status " << repair.status << "\n" << repair.err;
+        << path.filename() << " status " << repair.status << "\n"
+        << repair.err;
   }
 }
 
