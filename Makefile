@@ -7,15 +7,21 @@ BUILD ?= build
 SANITIZE_BUILD ?= build-sanitize
 CMAKE_FLAGS ?=
 
-.PHONY: all run test test-sanitize bench clean
+.PHONY: all run samples test test-sanitize bench clean
 
 all:
 	cmake -S . -B $(BUILD) $(CMAKE_FLAGS)
 	cmake --build $(BUILD) -j $(JOBS)
 
+# check exits 1 when it finds errors, which is the point of the damaged sample.
 run: all
-	@echo "igs: the check / repair demo on examples/ arrives with the file reader; for now:"
-	./$(BUILD)/tools/igs --version
+	./$(BUILD)/tools/igs check examples/bracket-damaged.igs || test $$? -eq 1
+	./$(BUILD)/tools/igs repair examples/bracket-damaged.igs -o $(BUILD)/bracket-repaired.igs
+	./$(BUILD)/tools/igs check $(BUILD)/bracket-repaired.igs
+
+# Writes examples/bracket.igs and examples/bracket-damaged.igs again.
+samples: all
+	./$(BUILD)/igs_make_samples examples
 
 test: all
 	ctest --test-dir $(BUILD) --output-on-failure -j $(JOBS)
