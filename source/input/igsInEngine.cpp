@@ -32,7 +32,9 @@ void igsInEngine::fixed_slow_decode(igsDecoder& decoder, unsigned int width) {
     int check = 0;
     decoder.accept_character(p[i], cont, check);
   }
-  if (i == width) *this += width;
+  // A field cut short by the end of the line ends with it: the next read starts on the next
+  // line, or a reader looping over fields would stand still.
+  *this += width;
   decoder.decode();
 }
 

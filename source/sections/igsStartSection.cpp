@@ -41,10 +41,10 @@ int igsStartSection::read(igsInStream& in, int& blank_lines) {
     in.read_string(line_width, text);
     if (in.error_type(igsIOStartLineSequence)) out_of_sequence = 1;
     if (in.error_type(igsIOBlankLine)) blank_lines = 1;
-    if (!m_lines.reserve(count + 1)) break;
-    m_lines[count++] = text;
+    if (count == 0) m_lines.clear(); // the lines read take the place of the default one
+    if (!m_lines.append(text)) break;
+    ++count;
   }
-  if (count > 0) m_lines.shrink(count);
   if (out_of_sequence) tag_error(new (std::nothrow) igsStartSectionInvalid);
   return in.reset();
 }
