@@ -54,6 +54,9 @@ int igsFile::read_directory_section(igsInStream& in) {
 
 int igsFile::read_directory_entry(igsInStream& in) {
   if (igs_stream_section(in) != igsSectionDirectory) return 0;
+  // A D line that failed its check stops the stream at its start; lifting the stop makes it
+  // readable. Reading on from a stopped stream would make entries of nothing, for ever.
+  if (in.frozen() && !in.reset()) return 0;
   igsDirectoryFields fields;
   unsigned codes = 0;
   int sound = fields.read(in, &codes);
