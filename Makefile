@@ -48,7 +48,7 @@ fuzz:
 	mkdir -p $(FUZZ_BUILD)/corpus
 	cd $(FUZZ_BUILD) && ASAN_OPTIONS=detect_leaks=1 ./fuzz/file_fuzz corpus \
 	  $(CURDIR)/fuzz/seeds $(CURDIR)/examples $(CURDIR)/tests/fuzz/regressions \
-	  $(wildcard $(IGS_CORPUS_DIR)) -dict=$(CURDIR)/fuzz/igs.dict -timeout=5 -max_len=16384 \
+	  $(abspath $(wildcard $(IGS_CORPUS_DIR))) -dict=$(CURDIR)/fuzz/igs.dict -timeout=5 -max_len=16384 \
 	  -max_total_time=$(FUZZ_SECONDS) -print_final_stats=1
 
 # Replays the fuzz corpus (from `make fuzz`), the seeds and the kept inputs through the
@@ -62,7 +62,7 @@ coverage:
 	  $(wildcard $(FUZZ_BUILD)/corpus) fuzz/seeds examples tests/fuzz/regressions
 	llvm-profdata-14 merge -o $(COVERAGE_BUILD)/replay.profdata $(COVERAGE_BUILD)/replay.profraw
 	llvm-cov-14 report ./$(COVERAGE_BUILD)/fuzz/file_fuzz -instr-profile=$(COVERAGE_BUILD)/replay.profdata \
-	  $(CURDIR)/source | tail -1
+	  $(CURDIR)/source | sed -n '1p;$$p'
 
 bench: all
 	@for b in $(BUILD)/bench/*_bench; do echo "== $$b"; $$b; done
