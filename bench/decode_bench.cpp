@@ -149,6 +149,7 @@ void BM_DecodeIntegers(benchmark::State& state) {
 }
 BENCHMARK(BM_DecodeIntegers)->Unit(benchmark::kMillisecond);
 
+// Every line taken as a reader takes it: a stop at a new entity is ended by a reset.
 int take_lines(std::string const& text) {
   MemoryBuf buffer(text);
   std::istream in(&buffer);
@@ -156,6 +157,7 @@ int take_lines(std::string const& text) {
   int count = 0;
   while (!lines.fatal_error()) {
     lines.skip_line();
+    if (lines.frozen()) lines.reset();
     ++count;
   }
   return count;

@@ -33,6 +33,8 @@ class igsIOCodeList {
     return 1;
   }
   int fatal() const { return m_fatal; }
+  // The codes recorded since the current line was begun, one bit for each.
+  unsigned line_codes() const { return m_line; }
 
   // A new line is being fetched: what is recorded from now on is its own.
   void begin_line() {

@@ -31,21 +31,63 @@ igsInBufferChecker::igsInBufferChecker() = default;
 igsInBufferChecker::~igsInBufferChecker() = default;
 
 int igsInBufferChecker::check(igsInBuffer& buffer, int& data_end) {
+  cache_buffer_attribs(buffer);
+  // Most records continue the one before in the way it foretold: they pass every check, and
+  // comparing their tail with the foretold one says so at once.
+  if (m_size == record_width && continues_as_expected(m_text)) {
+    ++m_line_number;
+    ++m_line_counts[m_section];
+    m_expected_valid = advance_expected();
+    data_end = this->data_end(m_section);
+    return 1;
+  }
   igsFileSection section = igsSectionNone;
   int line = 0;
   int backpointer = 0;
-  cache_buffer_attribs(buffer);
   data_end = 0;
   int syntax = check_syntax(section, line, backpointer);
+  int parsed_line = line;
   int semantics = check_semantics(section, line, backpointer);
   m_section = section;
   m_line_number = line;
   m_backpointer = backpointer;
+  m_expected_valid = 0;
+  if (syntax && semantics && m_errors.line_codes() == 0) expect_next(parsed_line);
   if (section != igsSectionNone) {
     ++m_line_counts[section];
     data_end = this->data_end(section);
   }
   return syntax && semantics;
+}
+
+// A sound 80-column record whose number fields are plain (blanks, then digits) foretells the
+// next one: its own tail with the sequence number counted on by one in place.
+void igsInBufferChecker::expect_next(int parsed_line) {
+  if (m_size != record_width || parsed_line != m_line_number) return;
+  int parameter = m_section == igsSectionParameter;
+  int letter = record_width - 1 - field_width;
+  for (int i = parameter ? backpointer_at : letter + 1; i < record_width; ++i)
+    if (i != letter && m_text[i] != ' ' && !igs_is_digit(m_text[i])) return;
+  std::memcpy(m_expected, m_text + separator_column, sizeof m_expected);
+  m_expected_parameter = parameter;
+  m_expected_valid = advance_expected();
+}
+
+// Counts the foretold sequence number on by one; 0 when it has no room for another digit.
+int igsInBufferChecker::advance_expected() {
+  char* digits = m_expected + (record_width - field_width - separator_column);
+  for (int i = field_width - 1; i >= 0; --i) {
+    if (digits[i] == ' ') {
+      digits[i] = '1';
+      return 1;
+    }
+    if (digits[i] != '9') {
+      ++digits[i];
+      return 1;
+    }
+    digits[i] = '0';
+  }
+  return 0;
 }
 
 // Where the data of a record ends. Global and Parameter lines get a newline there, so that a

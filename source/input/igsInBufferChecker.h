@@ -4,6 +4,9 @@
 #include "input/igsIOCodeList.h"
 #include "support/coNames.h"
 
+#include <cstdint>
+#include <cstring>
+
 class igsInBuffer;
 
 // Reads the section letter, the sequence number and, in the Parameter section, the back
@@ -33,6 +36,14 @@ class igsInBufferChecker {
   }
   int backpointer() const { return m_backpointer; }
   int num_lines(igsFileSection section) const;
+  // Whether an 80-column record continues the last one without fault in the way the last one
+  // foretold: the same section letter and, in the Parameter section, the same back pointer,
+  // and the next sequence number written as the last one was written. Such a record stands
+  // in its columns and passes every check.
+  int continues_as_expected(char const* record) const {
+    if (!m_expected_valid || load8(record + 72) != load8(m_expected + 8)) return 0;
+    return !m_expected_parameter || load8(record + 64) == load8(m_expected);
+  }
 
  private:
   void cache_buffer_attribs(igsInBuffer& buffer);
@@ -50,7 +61,13 @@ class igsInBufferChecker {
   static igsFileSection convert_char_to_section(char c);
   static void count_bools(int flag, int& count) { count += flag != 0; }
   void set_error(igsIOErrorCode code);
-
+  void expect_next(int parsed_line);
+  int advance_expected();
+  static std::uint64_t load8(char const* p) {
+    std::uint64_t x;
+    std::memcpy(&x, p, sizeof x);
+    return x;
+  }
   char* m_text = nullptr;
   int m_size = 0;
   int m_line_counts[igsSectionNone] = {};
@@ -58,4 +75,9 @@ class igsInBufferChecker {
   int m_line_number = 0;
   int m_backpointer = 0;
   igsIOCodeList m_errors;
+  // Columns 65 to 80 of the record that would continue the last one; the first eight count
+  // in the Parameter section only.
+  char m_expected[16];
+  int m_expected_valid = 0;
+  int m_expected_parameter = 0;
 };

@@ -154,7 +154,7 @@ void igsInBufferFiller::Text::erase_front() {
 
 int igsInBufferFiller::get(igsInBuffer& buffer) {
   charcoDynArr& line = buffer.buffer();
-  if (take_whole_record(line)) return 1;
+  if (take_whole_record(line, buffer.m_checker)) return 1;
   if (m_continuation < 0) m_continuation = check_for_continuation(m_line.data(), m_line.size());
   m_line.cut(0);
   int missing = record_width;
@@ -183,8 +183,9 @@ int igsInBufferFiller::get(igsInBuffer& buffer) {
 
 // The common case, taken straight from the stream's get area: an 80-column record followed by
 // LF or CR LF, with no control character in it, that stands in its columns already. Every
-// repair would leave it as it is, and the stream's state does not change.
-int igsInBufferFiller::take_whole_record(charcoDynArr& line) {
+// repair would leave it as it is, and the stream's state does not change. A record that
+// continues the last one as the checker foretold stands in its columns.
+int igsInBufferFiller::take_whole_record(charcoDynArr& line, igsInBufferChecker const& checker) {
   if (!good() || m_overflow.size() || !m_source) return 0;
   char const* p = GetArea::next(m_source);
   long available = GetArea::end(m_source) - p;
@@ -197,13 +198,20 @@ int igsInBufferFiller::take_whole_record(charcoDynArr& line) {
   if (!ending) return 0;
   std::uint64_t control = 0;
   for (int i = 0; i < record_width; i += 8) control |= any_below(load8(p + i), ' ');
-  if (control || !formatted_record(p, record_width)) return 0;
+  if (control) return 0;
+  if (!checker.continues_as_expected(p) && !formatted_record(p, record_width)) return 0;
   // The record is kept: whether the next line continues it is asked only if that line needs
-  // repair.
+  // repair. Both copies have a size known here, which makes them a few moves.
   m_line.cut(0);
-  m_line.append(p, record_width);
+  char* kept = m_line.room(record_width);
+  line.shrink(record_width + 1);
+  if (!kept || !line.expand(record_width + 1)) return 0;
+  std::memcpy(kept, p, record_width);
+  m_line.grow(record_width);
   m_continuation = -1;
-  deliver(line, p, record_width);
+  std::memcpy(line.data(), p, record_width);
+  line.data()[record_width] = '\0';
+  line.shrink(record_width);
   GetArea::skip(m_source, record_width + ending);
   return 1;
 }

@@ -7,6 +7,7 @@
 #include <istream>
 
 class igsInBuffer;
+class igsInBufferChecker;
 
 // Turns the bytes of a file, however damaged, into one record at a time. Line ends may be CR,
 // LF, CR LF or missing; NUL bytes, tabs, blank lines, records broken in two or run together,
@@ -69,7 +70,7 @@ class igsInBufferFiller {
   int read_chars(char* destination, int most);
   void take_char();
 
-  int take_whole_record(charcoDynArr& line);
+  int take_whole_record(charcoDynArr& line, igsInBufferChecker const& checker);
   void deliver(charcoDynArr& line, char const* text, int length);
   int get_line();
   int buffer_empty() const;

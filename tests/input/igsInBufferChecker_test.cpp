@@ -2,6 +2,8 @@
 
 #include <gtest/gtest.h>
 
+#include <cstdio>
+
 using namespace igs_input_test;
 
 namespace {
@@ -47,6 +49,30 @@ Lines const sound_events = Lines{"igsIOSectionEnd@G1:0", "igsIOSectionEnd@D1:0",
                                  "igsIOSectionEnd@P1:0", "igsIOSectionEnd@T1:0"} +
                            end_of_input("T1");
 
+// Start lines numbered 1 to n, each number written as `format` writes it.
+std::string numbered_start(int n, char const* format) {
+  Lines lines;
+  for (int i = 1; i <= n; ++i) {
+    char field[16];
+    std::snprintf(field, sizeof field, format, i);
+    lines.push_back(with_sequence(s2, field));
+  }
+  return join(lines);
+}
+
+// Parameter lines 1 to n of the entity at D1; line `odd` has text in column 65 and a back
+// pointer written with leading zeros; line n + 1 starts the entity at D3.
+std::string long_entity(int n, int odd) {
+  Lines lines = {d1, d2};
+  for (int i = 1; i <= n; ++i) {
+    std::string line = record('P', i, "1.,", 1);
+    if (i == odd) line = with_backpointer(with(line, 64, 'x'), "0000001");
+    lines.push_back(line);
+  }
+  lines.push_back(record('P', n + 1, "2.;", 3));
+  return join(lines);
+}
+
 std::vector<WalkCase> const walk_cases = {
     // Every new section stops the buffer at column 1 with code 6.
     {"a sound file", join(file), sound_events},
@@ -73,6 +99,24 @@ std::vector<WalkCase> const walk_cases = {
      Lines{"igsIOStartLineSequence@S3:0", "igsIOSectionEnd@G1:0", "igsIOLineSequence@G2:0",
            "igsIOSectionEnd@D1:0", "igsIOBadLineNumber@D1:0"} +
          end_of_input("D2")},
+    // Numbers written with leading zeros, carried over several digits, or in mixed ways run
+    // on as well as plain ones do.
+    {"numbers with leading zeros", numbered_start(1002, "%07d"), end_of_input("S1002")},
+    {"numbers written in turns",
+     numbered_start(12, "%07d").substr(0, 81 * 5) +
+         numbered_start(12, "%7d").substr(81 * 5, 81 * 3) +
+         numbered_start(12, "%07d").substr(81 * 8),
+     end_of_input("S12")},
+    {"a number skipped where digits carry",
+     numbered_start(9, "%7d") + with_sequence(s2, "     11") + "\n" + with_sequence(s2, "0000012") +
+         "\n",
+     Lines{"igsIOStartLineSequence@S10:0", "igsIOStartLineSequence@S11:0"} + end_of_input("S11")},
+    {"one entity over many lines", long_entity(30, 12),
+     Lines{"igsIOSectionEnd@D1:0", "igsIOSectionEnd@P1:0", "igsIOEntityEnd@P31:0"} +
+         end_of_input("P31")},
+    {"a line repeated in a long run",
+     numbered_start(6, "%7d") + with_sequence(s2, "      6") + "\n",
+     Lines{"igsIOStartLineSequence@S7:0"} + end_of_input("S7")},
     {"numbering restarts", join({s1, s2, s1, s2}),
      Lines{"igsIOStartLineSequence@S3:0", "igsIOStartLineSequence@S4:0"} + end_of_input("S4")},
     {"text in the number", join({s1, with_sequence(s2, "     2x")}),
