@@ -26,6 +26,14 @@ inline int igs_parse_int(char const* text, char const*& end) {
     end = text;
     return 0;
   }
+  // Nine digits or fewer cannot leave the range of int, and that is nearly every field.
+  unsigned small = 0;
+  int n = 0;
+  for (; n < 9 && igs_is_digit(s[n]); ++n) small = small * 10 + static_cast<unsigned>(s[n] - '0');
+  if (!igs_is_digit(s[n])) {
+    end = s + n;
+    return negative ? -static_cast<int>(small) : static_cast<int>(small);
+  }
   // Accumulate as a negative number, so that INT_MIN is reached without overflow.
   long long value = 0;
   constexpr long long limit = -static_cast<long long>(INT_MAX) - 2;
