@@ -60,9 +60,8 @@ struct PlainNode {
   PlainAttributes* attributes;
 };
 
-// Earlier entities picked by a cheap generator, the same for ours and the floor: mostly among
-// the last hundred, as in files where children are written just before their parents, and one
-// reference in eight anywhere before.
+// Earlier entities picked by a cheap generator, the same for ours and the floor: among the
+// last hundred, as in files where children are written just before their parents.
 struct Picker {
   std::uint32_t state = 12345;
   int earlier(int i) {
