@@ -242,10 +242,12 @@ int not_null(utString const& text) {
 } // namespace
 
 int igsGlobalSection::set_parameter_delimiter(char c) {
-  return store_if(m_parameter_delimiter, c, [this](char d) { return valid_delimiter(d); });
+  return store_if(m_parameter_delimiter, c,
+                  [this](char d) { return valid_delimiter(d) && d != m_record_delimiter; });
 }
 int igsGlobalSection::set_record_delimiter(char c) {
-  return store_if(m_record_delimiter, c, [this](char d) { return valid_delimiter(d); });
+  return store_if(m_record_delimiter, c,
+                  [this](char d) { return valid_delimiter(d) && d != m_parameter_delimiter; });
 }
 int igsGlobalSection::set_product_id_from_sending_system(utString const& text) {
   return store_if(m_product_id_sending, text, not_null);
@@ -390,8 +392,15 @@ int igsGlobalSection::read_record_delimiter(igsInStream& in, utOstream&) {
   if (!in.error_type(igsIOValuePresent)) text = ";";
   if (text.length() != 1) return 0;
   char delimiter = text[0];
-  if (!valid_delimiter(delimiter)) {
+  // A record delimiter that is also the parameter delimiter cannot tell where a record ends,
+  // and no file written with the two could be read back. The section then keeps the
+  // defaults, so that it stays writable.
+  if (!valid_delimiter(delimiter) || delimiter == m_parameter_delimiter) {
     raise<igsGlobalSectionInvalidRecordDelim>(delimiter);
+    m_parameter_delimiter = ',';
+    m_record_delimiter = ';';
+    in.set_param_delimiter(',');
+    in.set_record_delimiter(';');
     return 0;
   }
   m_record_delimiter = delimiter;

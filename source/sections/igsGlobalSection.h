@@ -2,9 +2,9 @@
 // delimiters of every free-format field that follows in the file.
 #pragma once
 
+#include "core/igsUnset.h"
 #include "sections/igsDate.h"
 #include "sections/igsUnits.h"
-#include "core/igsUnset.h"
 #include "support/giGeometry.h"
 
 class igsFile;
@@ -87,7 +87,8 @@ class igsGlobalSection {
   int max_version() const;
 
   // Setters that return int store the value and return 1, or refuse it and return 0.
-  // Refuse what valid_delimiter refuses.
+  // Refuse what valid_delimiter refuses, and the other delimiter: to swap the two, set one
+  // of them to a third character first.
   int set_parameter_delimiter(char c);
   int set_record_delimiter(char c);
   // Refuse a null string.

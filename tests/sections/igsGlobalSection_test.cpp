@@ -120,6 +120,10 @@ TEST_F(GlobalSectionTest, DelimitersAreTheHollerithCharacterOrTheDefaults) {
       {"1H11", 0, ',', ';', {"igsGlobalSectionInvalidParamDelim('1')"}},
       {"1H,,1HH,", 0, ',', ';', {"igsGlobalSectionInvalidRecordDelim('H')"}},
       {"1H,,1H.,", 0, ',', ';', {"igsGlobalSectionInvalidRecordDelim('.')"}},
+      // One character for both cannot end a record; the section falls back to the defaults.
+      {"1H,,1H,,", 0, ',', ';', {"igsGlobalSectionInvalidRecordDelim(',')"}},
+      {"1H;;1H;;", 0, ',', ';', {"igsGlobalSectionInvalidRecordDelim(';')"}},
+      {"1H||1H||", 0, ',', ';', {"igsGlobalSectionInvalidRecordDelim('|')"}},
   };
   for (Case const& c : cases) {
     SCOPED_TRACE(c.data);
@@ -156,7 +160,9 @@ TEST_F(GlobalSectionTest, DelimitersAreTheHollerithCharacterOrTheDefaults) {
   }
   EXPECT_EQ(global.set_parameter_delimiter('E'), 0);
   EXPECT_EQ(global.set_record_delimiter(' '), 0);
+  EXPECT_EQ(global.set_parameter_delimiter(','), 0); // the record delimiter, as last read
   EXPECT_EQ(global.set_parameter_delimiter('/'), 1);
+  EXPECT_EQ(global.set_record_delimiter('/'), 0); // the parameter delimiter
   EXPECT_EQ(global.set_record_delimiter(','), 1);
   EXPECT_EQ(global.parameter_delimiter(), '/');
   EXPECT_EQ(global.record_delimiter(), ',');
