@@ -222,6 +222,9 @@ std::unique_ptr<igsFile> load(Options const& o, Messages& messages_sink, std::st
   // A read that stopped early still counts when it met entities, known to us or not.
   if (!result && file->num_entities() == 0 && file->num_nulls() == 0 && file->num_unknowns() == 0) {
     problem = "'" + o.file + "' could not be read as an IGES file";
+    // What ended the reading, when the log knows it (a delimiter of the Global section).
+    auto errors = tool_collect_errors(*file);
+    if (!errors.empty()) problem += ": " + tool_error_text(errors.front());
     return nullptr;
   }
   return file;

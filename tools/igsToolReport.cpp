@@ -95,23 +95,25 @@ std::map<std::string, int> tool_count_by_section(std::vector<ToolErrorRecord> co
   return counts;
 }
 
+std::string tool_error_text(ToolErrorRecord const& e) {
+  std::string text = e.class_name;
+  if (e.has_de) text += "  DE " + std::to_string(e.de);
+  if (e.has_entity)
+    text += "  type " + std::to_string(e.entity_type) + " form " + std::to_string(e.entity_form) +
+            " (" + e.entity_name + ")";
+  else if (e.has_de)
+    text += "  (no entity)";
+  for (auto const& [name, value] : e.arguments_text) text += "  " + name + "=" + value;
+  return text;
+}
+
 void tool_print_errors(std::ostream& out, std::vector<ToolErrorRecord> const& errors) {
   auto counts = tool_count_by_section(errors);
   for (auto const& section : tool_section_names()) {
     if (!counts[section]) continue;
     out << section << " errors (" << counts[section] << "):\n";
-    for (auto const& e : errors) {
-      if (e.section != section) continue;
-      out << "  " << e.class_name;
-      if (e.has_de) out << "  DE " << e.de;
-      if (e.has_entity)
-        out << "  type " << e.entity_type << " form " << e.entity_form << " (" << e.entity_name
-            << ")";
-      else if (e.has_de)
-        out << "  (no entity)";
-      for (auto const& [name, value] : e.arguments_text) out << "  " << name << "=" << value;
-      out << "\n";
-    }
+    for (auto const& e : errors)
+      if (e.section == section) out << "  " << tool_error_text(e) << "\n";
   }
 }
 

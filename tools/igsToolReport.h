@@ -33,6 +33,9 @@ std::vector<ToolErrorRecord> tool_collect_errors(igsFile const& file);
 // Counts per section name, every section present.
 std::map<std::string, int> tool_count_by_section(std::vector<ToolErrorRecord> const& errors);
 
+// One error on one line: class, DE number and entity where it has them, arguments.
+std::string tool_error_text(ToolErrorRecord const& e);
+
 // Errors grouped by section, one line each.
 void tool_print_errors(std::ostream& out, std::vector<ToolErrorRecord> const& errors);
 

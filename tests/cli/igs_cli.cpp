@@ -140,6 +140,10 @@ TEST_F(CliTest, BadUseGivesOneLineAndAStatus) {
   std::string binary;
   for (int i = 0; i < 4096; ++i) binary += static_cast<char>((i * 37) & 0xff);
   fs::path noise = write("noise.bin", binary);
+  // One character for both delimiters: the reading ends, and the line says why.
+  std::string sample_text = igs_test::read_file(sample("bracket.igs"));
+  fs::path same =
+      write("same-delimiters.igs", sample_text.replace(sample_text.find("1H;"), 3, "1H,"));
   struct Case {
     std::string arguments;
     int status;
@@ -154,6 +158,7 @@ TEST_F(CliTest, BadUseGivesOneLineAndAStatus) {
       {"check " + quoted(folder), 2, "is a directory"},
       {"check " + quoted(empty), 2, "is empty"},
       {"check " + quoted(noise), 2, "binary"},
+      {"check " + quoted(same), 2, "igsGlobalSectionInvalidRecordDelim  delimiter=','"},
       {"repair " + quoted(sample("bracket.igs")) + " -o " + quoted(folder / "no" / "out.igs"), 2,
        "no folder"},
       {"print --de 2 " + quoted(sample("bracket.igs")), 2, "odd DE number"},
