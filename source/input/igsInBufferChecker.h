@@ -2,10 +2,8 @@
 #pragma once
 
 #include "input/igsIOCodeList.h"
+#include "input/igsNumberText.h"
 #include "support/coNames.h"
-
-#include <cstdint>
-#include <cstring>
 
 class igsInBuffer;
 
@@ -41,8 +39,8 @@ class igsInBufferChecker {
   // and the next sequence number written as the last one was written. Such a record stands
   // in its columns and passes every check.
   int continues_as_expected(char const* record) const {
-    if (!m_expected_valid || load8(record + 72) != load8(m_expected + 8)) return 0;
-    return !m_expected_parameter || load8(record + 64) == load8(m_expected);
+    if (!m_expected_valid || igs_load8(record + 72) != igs_load8(m_expected + 8)) return 0;
+    return !m_expected_parameter || igs_load8(record + 64) == igs_load8(m_expected);
   }
 
  private:
@@ -63,11 +61,6 @@ class igsInBufferChecker {
   void set_error(igsIOErrorCode code);
   void expect_next(int parsed_line);
   int advance_expected();
-  static std::uint64_t load8(char const* p) {
-    std::uint64_t x;
-    std::memcpy(&x, p, sizeof x);
-    return x;
-  }
   char* m_text = nullptr;
   int m_size = 0;
   int m_line_counts[igsSectionNone] = {};

@@ -19,11 +19,6 @@ constexpr char break_marker = 127;
 // Eight bytes at a time: whether any byte is below n (n at most 128), or equals b.
 constexpr std::uint64_t low_bits = 0x0101010101010101ULL;
 constexpr std::uint64_t high_bits = 0x8080808080808080ULL;
-std::uint64_t load8(char const* p) {
-  std::uint64_t x;
-  std::memcpy(&x, p, sizeof x);
-  return x;
-}
 std::uint64_t any_below(std::uint64_t x, unsigned n) {
   return (x - low_bits * n) & ~x & high_bits;
 }
@@ -197,7 +192,7 @@ int igsInBufferFiller::take_whole_record(charcoDynArr& line, igsInBufferChecker 
     ending = 2;
   if (!ending) return 0;
   std::uint64_t control = 0;
-  for (int i = 0; i < record_width; i += 8) control |= any_below(load8(p + i), ' ');
+  for (int i = 0; i < record_width; i += 8) control |= any_below(igs_load8(p + i), ' ');
   if (control) return 0;
   if (!checker.continues_as_expected(p) && !formatted_record(p, record_width)) return 0;
   // The record is kept: whether the next line continues it is asked only if that line needs
@@ -534,7 +529,7 @@ int igsInBufferFiller::check_for_continuation(char const* p, int length) const {
   while (i > 0) {
     int from = i >= 8 ? i - 8 : 0;
     if (i - from == 8) {
-      std::uint64_t x = load8(p + from);
+      std::uint64_t x = igs_load8(p + from);
       if (!(any_equal(x, m_record_delimiter) | any_equal(x, m_param_delimiter))) {
         i = from;
         continue;

@@ -3,10 +3,10 @@
 
 #include "input/igsDecoder.h"
 #include "input/igsInBuffer.h"
+#include "input/igsNumberText.h"
 
 #include <bit>
 #include <cstdint>
-#include <cstring>
 
 // Drives a decoder over the current line: finds where a field starts, tries the decoder's
 // fast way, falls back to its slow way, recognises the delimiters, and stops the buffer at a
@@ -68,9 +68,7 @@ class igsInEngine : public igsInBuffer {
     if constexpr (std::endian::native == std::endian::little) {
       constexpr std::uint64_t eight_blanks = 0x2020202020202020ULL;
       for (; n + 8 <= bytes; n += 8) {
-        std::uint64_t x;
-        std::memcpy(&x, p + n, sizeof x);
-        if (std::uint64_t other = x ^ eight_blanks)
+        if (std::uint64_t other = igs_load8(p + n) ^ eight_blanks)
           return n + static_cast<unsigned int>(std::countr_zero(other)) / 8;
       }
     }

@@ -1,9 +1,19 @@
-// Character classes and number parsers of the input pipeline. They behave as the C library's
-// isspace, isdigit, strtol and strtod in the "C" locale, whatever locale the host has set, and
-// they need no look-up and no allocation.
+// Character classes, number parsers and an eight-byte load for the scans of the input
+// pipeline. The classes and parsers behave as the C library's isspace, isdigit, strtol and
+// strtod in the "C" locale, whatever locale the host has set, and need no look-up and no
+// allocation.
 #pragma once
 
 #include <climits>
+#include <cstdint>
+#include <cstring>
+
+// Eight bytes of text as one word, for scans that look at eight characters at a time.
+inline std::uint64_t igs_load8(char const* p) {
+  std::uint64_t x;
+  std::memcpy(&x, p, sizeof x);
+  return x;
+}
 
 // White space of the "C" locale: blank, tab, LF, VT, FF and CR.
 inline bool igs_is_space(char c) {

@@ -243,11 +243,11 @@ int not_null(utString const& text) {
 
 int igsGlobalSection::set_parameter_delimiter(char c) {
   return store_if(m_parameter_delimiter, c,
-                  [this](char d) { return valid_delimiter(d) && d != m_record_delimiter; });
+                  [this](char d) { return distinct_delimiter(d, m_record_delimiter); });
 }
 int igsGlobalSection::set_record_delimiter(char c) {
   return store_if(m_record_delimiter, c,
-                  [this](char d) { return valid_delimiter(d) && d != m_parameter_delimiter; });
+                  [this](char d) { return distinct_delimiter(d, m_parameter_delimiter); });
 }
 int igsGlobalSection::set_product_id_from_sending_system(utString const& text) {
   return store_if(m_product_id_sending, text, not_null);
@@ -395,7 +395,7 @@ int igsGlobalSection::read_record_delimiter(igsInStream& in, utOstream&) {
   // A record delimiter that is also the parameter delimiter cannot tell where a record ends,
   // and no file written with the two could be read back. The section then keeps the
   // defaults, so that it stays writable.
-  if (!valid_delimiter(delimiter) || delimiter == m_parameter_delimiter) {
+  if (!distinct_delimiter(delimiter, m_parameter_delimiter)) {
     raise<igsGlobalSectionInvalidRecordDelim>(delimiter);
     m_parameter_delimiter = ',';
     m_record_delimiter = ';';

@@ -124,6 +124,9 @@ class igsGlobalSection {
   // Whether the character may delimit: "," and ";" always; never a control character, a
   // blank, a digit, a sign, a point, nor the letters of exponents and Hollerith strings.
   int valid_delimiter(char c) const;
+  // Whether the character may delimit beside `other`, the other delimiter: one character for
+  // both could not tell where a record ends.
+  int distinct_delimiter(char c, char other) const { return valid_delimiter(c) && c != other; }
 
   // Reads the G lines from where the stream stands, up to the first line of the next section,
   // and sets the stream's delimiters. Stores what the file holds and raises the errors of
