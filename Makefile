@@ -9,11 +9,12 @@ BUILD ?= build
 SANITIZE_BUILD ?= build-sanitize
 FUZZ_BUILD ?= build-fuzz
 COVERAGE_BUILD ?= build-coverage
+COVERAGE_TESTS_BUILD ?= build-coverage-tests
 FUZZ_SECONDS ?= 180
 IGS_CORPUS_DIR ?= ../shared/corpus/real
 CMAKE_FLAGS ?=
 
-.PHONY: all run samples test test-sanitize fuzz coverage bench clean
+.PHONY: all run samples test test-sanitize fuzz coverage coverage-tests bench clean
 
 all:
 	cmake -S . -B $(BUILD) $(CMAKE_FLAGS)
@@ -64,8 +65,26 @@ coverage:
 	llvm-cov-14 report ./$(COVERAGE_BUILD)/fuzz/file_fuzz -instr-profile=$(COVERAGE_BUILD)/replay.profdata \
 	  $(CURDIR)/source | sed -n '1p;$$p'
 
+# Line coverage of source/ by the test suite (clang): runs every test in an instrumented build
+# and prints the total; $(COVERAGE_BUILD)/tests.lcov holds the lines, for a diff between runs.
+coverage-tests:
+	CC=clang CXX=clang++ cmake -S . -B $(COVERAGE_TESTS_BUILD) -DIGS_COVERAGE=ON -DIGS_BUILD_TESTS=ON \
+	  -DIGS_BUILD_TOOLS=ON -DIGS_BUILD_BENCH=OFF -DIGS_CORPUS_DIR=$(abspath $(IGS_CORPUS_DIR)) \
+	  $(CMAKE_FLAGS)
+	cmake --build $(COVERAGE_TESTS_BUILD) -j $(JOBS)
+	rm -rf $(COVERAGE_TESTS_BUILD)/profiles && mkdir -p $(COVERAGE_TESTS_BUILD)/profiles
+	LLVM_PROFILE_FILE=$(CURDIR)/$(COVERAGE_TESTS_BUILD)/profiles/%p.profraw \
+	  ctest --test-dir $(COVERAGE_TESTS_BUILD) -j $(JOBS) --output-on-failure
+	llvm-profdata-14 merge -o $(COVERAGE_TESTS_BUILD)/tests.profdata $(COVERAGE_TESTS_BUILD)/profiles/*.profraw
+	objects=$$(find $(COVERAGE_TESTS_BUILD)/tests $(COVERAGE_TESTS_BUILD)/tools -type f -perm -u+x \
+	  -name 'igs*' | sed 's/^/-object /'); \
+	llvm-cov-14 export -format=lcov -instr-profile=$(COVERAGE_TESTS_BUILD)/tests.profdata $$objects \
+	  $(CURDIR)/source > $(COVERAGE_TESTS_BUILD)/tests.lcov; \
+	llvm-cov-14 report -instr-profile=$(COVERAGE_TESTS_BUILD)/tests.profdata $$objects \
+	  $(CURDIR)/source | sed -n '1p;$$p'
+
 bench: all
 	@for b in $(BUILD)/bench/*_bench; do echo "== $$b"; $$b; done
 
 clean:
-	rm -rf $(BUILD) $(SANITIZE_BUILD) $(FUZZ_BUILD) $(COVERAGE_BUILD)
+	rm -rf $(BUILD) $(SANITIZE_BUILD) $(FUZZ_BUILD) $(COVERAGE_BUILD) $(COVERAGE_TESTS_BUILD)

@@ -1,0 +1,52 @@
+// The curve and point classes as their accessors give their parameters, for the corpus test.
+#include "entities/curves/igs100.h"
+#include "entities/curves/igs110.h"
+#include "entities/curves/igs116.h"
+#include "entities/curves/igsPointset.h"
+#include "entities/curves/igsPolyline.h"
+#include "entities/curves/igsSimpleClosedPlanarCurve.h"
+#include "entities/entityFamily.h"
+
+using namespace igs_family_test;
+
+namespace {
+
+// Flag, count, the common Z with flag 1, then the tuples.
+template <class T> void tuples(T const& e, Values& v) {
+  typename T::Dim dim{};
+  e.dimensionality(dim);
+  v << static_cast<int>(dim) << e.number_of_items();
+  double z = 0.0;
+  if (e.z_level(z)) v << z;
+  for (int i = 0; i < e.number_of_items(); ++i) {
+    giPoint2 planar;
+    giPoint3 point;
+    giVector3 vector;
+    if (e.point_planar(i, planar))
+      v << planar;
+    else if (e.point_vector(i, point, vector))
+      v << point << vector;
+    else if (e.point_3d(i, point))
+      v << point;
+  }
+}
+
+CorpusRows const curves = {
+    row<igs116>([](igs116 const& e, Values& v) { v << e.point() << e.display_symbol(); }),
+    row<igs110>([](igs110 const& e, Values& v) { v << e.start_point() << e.end_point(); }),
+    row<igs100>([](igs100 const& e, Values& v) {
+      v << e.z_level() << e.centre() << e.start_point() << e.end_point();
+    }),
+    row<igsPointset>(tuples<igsPointset>),
+    row<igsPolyline>(tuples<igsPolyline>),
+    row<igsSimpleClosedPlanarCurve>([](igsSimpleClosedPlanarCurve const& e, Values& v) {
+      v << 1 << e.number_of_points() << e.z_level();
+      for (int i = 0; i < e.number_of_points(); ++i) {
+        giPoint2 p;
+        e.point(i, p);
+        v << p;
+      }
+    }),
+};
+
+} // namespace
