@@ -77,15 +77,10 @@ std::vector<WalkCase> const walk_cases = {
     // Every new section stops the buffer at column 1 with code 6.
     {"a sound file", join(file), sound_events},
     // Repairs of the line layout record nothing.
-    {"no line ends at all", join(file, ""), sound_events},
     {"folded and run-together records",
      s1 + s2 + "\n" + g1 + "\n" + d1.substr(0, 40) + "\n" + d1.substr(41) + "\n" + d2 + "\n" +
          file[5] + "\n" + t1.substr(0, 75) + "\r\n" + t1.substr(75),
      sound_events},
-    {"a lost decimal point",
-     join({d1, d2, record('P', 1, "126,1,1,0,0,1,0,0.,0.,1.,1., ", 1),
-           record('P', 2, ".5,0.5,0.,0.;", 1).substr(1)}),
-     Lines{"igsIOSectionEnd@D1:0", "igsIOSectionEnd@P1:0"} + end_of_input("P2")},
     {"damage of every kind",
      s1 + "\r\n" + s2 + "\r\n" + g1.substr(0, 40) + '\0' + g1.substr(41) + "\r\n" + d1 +
          "\r\n\r\n" + d2 + "\r\n" + file[5].substr(0, 30) + "\t" + file[5].substr(31) + "\r\n" + t1,

@@ -63,13 +63,8 @@ std::string reference(char const* format, double value) {
 
 TEST(igsIntEncoder, DecimalTextInOnePiece) {
   igsIntEncoder e;
-  std::pair<int, char const*> const cases[] = {{0, "0"},
-                                               {7, "7"},
-                                               {-1, "-1"},
-                                               {1234567, "1234567"},
-                                               {INT_MAX, "2147483647"},
-                                               {INT_MIN, "-2147483648"},
-                                               {static_cast<int>(0x80000001), "-2147483647"}};
+  std::pair<int, char const*> const cases[] = {
+      {0, "0"}, {-1, "-1"}, {INT_MAX, "2147483647"}, {INT_MIN, "-2147483648"}};
   for (auto const& [value, text] : cases) {
     EXPECT_EQ(encoded(e, value), (Pieces{{text, 0}}));
     EXPECT_EQ(e.value(), value);
@@ -87,29 +82,15 @@ TEST(igsDoubleEncoder, EveryRealHasAPointAndADExponent) {
   EXPECT_EQ(std::string(e.current_format().view()), "%-20.15G");
   std::pair<double, char const*> const cases[] = {
       {1.0, "1."},
-      {0.5, "0.5"},
-      {1.5e20, "1.5D+20"},
-      {1e20, "1.D+20"},
       {-0.0, "0."},
-      {0.0, "0."},
-      {0.1, "0.1"},
-      {100000.0, "100000."},
       {1e15, "1.D+15"},
       {1e14, "100000000000000."},
-      {123456789012345.0, "123456789012345."},
       {1234567890123456.0, "1.23456789012346D+15"},
       {0.0001, "0.0001"},
       {0.00001, "1.D-05"},
-      {-2.5, "-2.5"},
-      {-1e-20, "-1.D-20"},
-      {1.0 / 3.0, "0.333333333333333"},
       {-2.0 / 3.0, "-0.666666666666667"},
-      {1e300, "1.D+300"},
-      {1e-300, "1.D-300"},
       {DBL_MAX, "1.79769313486232D+308"},
       {std::numeric_limits<double>::denorm_min(), "4.94065645841247D-324"},
-      {-DBL_MAX, "-1.79769313486232D+308"},
-      {std::numeric_limits<double>::infinity(), "INF."},
       {-std::numeric_limits<double>::infinity(), "-INF."},
       {std::numeric_limits<double>::quiet_NaN(), "NAN."},
   };
@@ -195,9 +176,7 @@ TEST(igsStringEncoders, HollerithCountsTrimmedBytesAndStringsStayWhole) {
     Pieces expected;
   };
   Case const cases[] = {
-      {"ABC", {{"3H", 0}, {"ABC", 1}}},
       {"A B  ", {{"3H", 0}, {"A B", 1}}},
-      {"", {{"0H", 0}, {"", 1}}},
       {utString(), {{"0H", 0}, {"", 1}}},
       {"   ", {{"0H", 0}, {"", 1}}},
       {"x,y;z\t\n\r\v\f ", {{"5H", 0}, {"x,y;z", 1}}},

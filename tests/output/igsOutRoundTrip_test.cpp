@@ -54,77 +54,6 @@ std::vector<double> generated_reals(int count, unsigned seed) {
   return values;
 }
 
-// The data columns of every line, one behind the other, after checking that each line is
-// a Parameter line with the expected back pointer and the next sequence number.
-std::string parameter_data(std::string const& text, std::vector<int> const& backpointers) {
-  std::string data;
-  Lines lines = lines_of(text);
-  EXPECT_EQ(lines.size(), backpointers.size());
-  for (size_t i = 0; i < lines.size() && i < backpointers.size(); ++i) {
-    std::string const& line = lines[i];
-    char tail[32];
-    std::snprintf(tail, sizeof tail, " %7dP%7d", backpointers[i], static_cast<int>(i + 1));
-    EXPECT_EQ(line.substr(64), tail) << line;
-    data += line.substr(0, 64);
-  }
-  return data;
-}
-
-// The fields of delimited data: blanks dropped, cut at "," and ";".
-std::vector<std::string> fields_of(std::string const& data) {
-  std::vector<std::string> fields(1);
-  for (char c : data) {
-    if (c == ',' || c == ';')
-      fields.emplace_back();
-    else if (c != ' ')
-      fields.back() += c;
-  }
-  fields.pop_back(); // behind the last delimiter
-  return fields;
-}
-
-TEST(igsOutStream, GeneratedRealsParseBackToTheirRoundedValues) {
-  std::vector<double> values = generated_reals(6000, 4242);
-  for (int precision : {15, 8}) {
-    SCOPED_TRACE(precision);
-    std::ostringstream out;
-    std::vector<int> backpointers;
-    {
-      igsOutStream s(&out);
-      s.set_section(igsSectionParameter);
-      if (precision != 15) s.push_double_format(20, precision);
-      int backpointer = 1;
-      std::mt19937 random(5);
-      size_t record_end = 0;
-      for (size_t i = 0; i < values.size(); ++i) {
-        s.write_double(values[i]);
-        // Records of 1 to 97 values: the back pointer changes with each.
-        if (i == record_end || i + 1 == values.size()) {
-          record_end = i + 1 + random() % 97;
-          s.set_backpointer(backpointer + 2);
-          int lines = s.num_lines(igsSectionParameter);
-          backpointers.resize(static_cast<size_t>(lines), backpointer);
-          backpointer += 2;
-        }
-      }
-      EXPECT_FALSE(s.error());
-    }
-    std::vector<std::string> fields = fields_of(parameter_data(out.str(), backpointers));
-    ASSERT_EQ(fields.size(), values.size());
-    int mismatches = 0;
-    for (size_t i = 0; i < values.size(); ++i) {
-      std::string text = fields[i];
-      EXPECT_NE(text.find('.'), std::string::npos) << text;
-      EXPECT_EQ(text.find('E'), std::string::npos) << text;
-      for (char& c : text)
-        if (c == 'D') c = 'E';
-      if (std::strtod(text.c_str(), nullptr) != rounded(values[i], precision) && ++mismatches < 5)
-        ADD_FAILURE() << values[i] << " written as " << fields[i];
-    }
-    EXPECT_EQ(mismatches, 0);
-  }
-}
-
 // One value of a mixed record: i integer, r real, h Hollerith text.
 struct Value {
   char type;
@@ -288,9 +217,6 @@ void round_trip(Delimiters d, unsigned seed) {
 
 TEST(igsOutStream, WrittenFieldsReadBackEqual) {
   round_trip({',', ';'}, 17);
-}
-
-TEST(igsOutStream, WrittenFieldsReadBackEqualWithOtherDelimiters) {
   round_trip({'|', '#'}, 29);
   round_trip({';', ','}, 31);
 }

@@ -100,6 +100,18 @@ std::vector<LayoutCase> const layout_cases = {
        s.set_backpointer(5);
      },
      {record('P', 1, "1|2.5|3HA,B#", 1), record('P', 2, "-1.D-20#", 3)}},
+    {"a format pushed for parametric values, and one pop too many changes nothing",
+     [](igsOutStream& s) {
+       s.set_section(igsSectionParameter);
+       s.write_double(3.14159265358979);
+       s.push_double_format(20, 9);
+       s.write_double(-3.14159265358979e-10);
+       s.pop_double_format();
+       s.pop_double_format();
+       s.write_double(1.0 / 3.0);
+       s.set_backpointer(3);
+     },
+     {record('P', 1, "3.14159265358979,-3.14159265D-10,0.333333333333333;", 1)}},
     {"an empty Global field is 0H, and leaving the section ends its record",
      [](igsOutStream& s) {
        s.set_section(igsSectionGlobal);
@@ -158,63 +170,6 @@ TEST(igsOutStream, LaysFieldsIntoLines) {
     SCOPED_TRACE(c.what);
     EXPECT_EQ(written(c.fill), c.expected);
   }
-}
-
-TEST(igsOutStream, WritesTheSampleFileOfTheReader) {
-  // The small file of the reader's tests, written field by field the way the section writers
-  // do, comes out byte for byte.
-  std::ostringstream out;
-  {
-    igsOutStream s(&out);
-    s.set_section(igsSectionStart);
-    for (std::string text : {"A small file made for the tests.", "Second start line."}) {
-      text.resize(72, ' ');
-      s.write_string(72, text.c_str());
-    }
-    s.set_section(igsSectionGlobal);
-    for (char const* text : {",", ";", "test", "test.igs", "me", "1.0"}) s.write_holerith(text);
-    s.set_section(igsSectionDirectory);
-    for (int v : {110, 1, 0, 0, 0, 0, 0, 0}) s.write_integer(8, v);
-    s.write_string(8, "00000000");
-    for (int v : {110, 0, 0, 1, 0}) s.write_integer(8, v);
-    for (int i = 0; i < 3; ++i) s.write_string(8, "");
-    s.write_integer(8, 0);
-    s.set_section(igsSectionParameter);
-    s.write_integer(110);
-    for (double v : {0.0, 0.0, 0.0, 1.0, 2.0, 3.0}) s.write_double(v);
-    s.set_backpointer(3);
-    EXPECT_EQ(s.num_lines(igsSectionParameter), 1);
-    s.set_section(igsSectionTerminate);
-    int index = 0;
-    for (igsFileSection section :
-         {igsSectionStart, igsSectionGlobal, igsSectionDirectory, igsSectionParameter}) {
-      s.write_string(1, utString(std::string(1, "SGDP"[index++])));
-      s.write_integer(7, s.num_lines(section));
-    }
-    EXPECT_FALSE(s.error());
-  }
-  EXPECT_EQ(out.str(), igs_input_test::join(igs_input_test::sound_file()));
-}
-
-TEST(igsOutStream, RealsFollowThePrecisionKeys) {
-  // Geometric values take the precision the stream was made with; parametric ones the
-  // format pushed around them, as the entity writers do.
-  KeyOverride geometric(kvnOptDoubleGeometricPrecision, 6);
-  KeyOverride parametric(kvnOptDoubleParametricPrecision, 9);
-  double const pi = 3.14159265358979;
-  Lines lines = written([&](igsOutStream& s) {
-    s.set_section(igsSectionParameter);
-    s.write_double(pi);
-    s.push_double_format(kvnOptDoubleFieldWidth.value(), kvnOptDoubleParametricPrecision.value());
-    s.write_double(pi);
-    s.write_double(-1e-10 * pi);
-    s.pop_double_format();
-    s.write_double(pi);
-    s.pop_double_format(); // one pop too many changes nothing
-    s.write_double(pi);
-    s.set_backpointer(3);
-  });
-  EXPECT_EQ(lines, Lines{record('P', 1, "3.14159,3.14159265,-3.14159265D-10,3.14159,3.14159;", 1)});
 }
 
 TEST(igsOutStream, FailingStreamFreezesUntilCollectedAndReset) {
