@@ -17,158 +17,99 @@ std::string digits(int n) {
   return s;
 }
 
+// One call on the stream: a section letter sets the section; i, r and h write an integer, a
+// real and a Hollerith string; f writes a fixed-width integer and s a fixed-width string of
+// `width` columns; b ends a record with its back pointer; d sets the two delimiters; + pushes
+// a real format of `width` digits and - pops one.
+struct Op {
+  char kind;
+  std::string text = "";
+  double number = 0;
+  int width = 0;
+};
+
+void run(igsOutStream& s, Op const& op) {
+  int const n = static_cast<int>(op.number);
+  switch (op.kind) {
+  case 'i': return s.write_integer(n);
+  case 'r': return s.write_double(op.number);
+  case 'h': return s.write_holerith(op.text.c_str());
+  case 'f': return s.write_integer(op.width, n);
+  case 's': return s.write_string(op.width, op.text.c_str());
+  case 'b': return s.set_backpointer(n);
+  case 'd': return s.set_delimiters(op.text.substr(0, 1).c_str(), op.text.substr(1).c_str());
+  case '+': return s.push_double_format(20, op.width);
+  case '-': return s.pop_double_format();
+  default: s.set_section(static_cast<igsFileSection>(std::string("SGDPT").find(op.kind)));
+  }
+}
+
 struct LayoutCase {
   char const* what;
-  std::function<void(igsOutStream&)> fill;
+  std::vector<Op> ops;
   Lines expected;
 };
 
 std::vector<LayoutCase> const layout_cases = {
     {"a number that would end in column 64 moves whole, with its delimiter's column",
-     [](igsOutStream& s) {
-       s.set_section(igsSectionParameter);
-       s.write_holerith(A(57).c_str()); // columns 1 to 60
-       s.write_integer(123);
-       s.set_backpointer(3);
-     },
+     {{'P'}, {'h', A(57)}, {'i', "", 123}, {'b', "", 3}},
      {record('P', 1, "57H" + A(57) + ",", 1), record('P', 2, "123;", 1)}},
     {"a number ending in column 63 stays, and its record delimiter takes column 64",
-     [](igsOutStream& s) {
-       s.set_section(igsSectionParameter);
-       s.write_holerith(A(57).c_str());
-       s.write_integer(12);
-       s.set_backpointer(3);
-     },
+     {{'P'}, {'h', A(57)}, {'i', "", 12}, {'b', "", 3}},
      {record('P', 1, "57H" + A(57) + ",12;", 1)}},
     {"a delimiter in the last data column finishes the line",
-     [](igsOutStream& s) {
-       s.set_section(igsSectionParameter);
-       s.write_holerith(A(60).c_str()); // columns 1 to 63
-       s.write_integer(7);
-       s.set_backpointer(3);
-     },
+     {{'P'}, {'h', A(60)}, {'i', "", 7}, {'b', "", 3}},
      {record('P', 1, "60H" + A(60) + ",", 1), record('P', 2, "7;", 1)}},
     {"a Hollerith body runs on over the line end with no gap",
-     [](igsOutStream& s) {
-       s.set_section(igsSectionParameter);
-       s.write_integer(1);
-       s.write_holerith(digits(100).c_str());
-       s.set_backpointer(3);
-     },
+     {{'P'}, {'i', "", 1}, {'h', digits(100)}, {'b', "", 3}},
      {record('P', 1, "1,100H" + digits(100).substr(0, 58), 1),
       record('P', 2, digits(100).substr(58) + ";", 1)}},
     {"an nH prefix that does not fit moves to the next line with its body",
-     [](igsOutStream& s) {
-       s.set_section(igsSectionParameter);
-       s.write_holerith(A(59).c_str()); // columns 1 to 62, the delimiter in 63
-       s.write_holerith("ABCDE");
-       s.set_backpointer(3);
-     },
+     {{'P'}, {'h', A(59)}, {'h', "ABCDE"}, {'b', "", 3}},
      {record('P', 1, "59H" + A(59) + ",", 1), record('P', 2, "5HABCDE;", 1)}},
     {"a record delimiter behind a field that ends in the last data column",
-     [](igsOutStream& s) {
-       s.set_section(igsSectionParameter);
-       s.write_holerith(A(61).c_str());
-       s.set_backpointer(3);
-     },
+     {{'P'}, {'h', A(61)}, {'b', "", 3}},
      {record('P', 1, "61H" + A(61), 1), record('P', 2, ";", 1)}},
     {"sequence numbers run on over records, each line with its record's back pointer",
-     [](igsOutStream& s) {
-       s.set_section(igsSectionParameter);
-       s.write_integer(110);
-       s.write_double(0.0);
-       s.write_double(1.5);
-       s.set_backpointer(3);
-       s.write_integer(116);
-       s.set_backpointer(5);
-       s.write_integer(126);
-       for (int i = 0; i < 14; ++i) s.write_double(1.25);
-       s.set_backpointer(7);
-     },
+     {{'P'}, {'i', "", 110}, {'r', "", 0.0}, {'r', "", 1.5}, {'b', "", 3}, {'i', "", 116},
+      {'b', "", 5}, {'i', "", 126}, {'h', A(56)}, {'r', "", 1.25}, {'b', "", 7}},
      {record('P', 1, "110,0.,1.5;", 1), record('P', 2, "116;", 3),
-      record('P', 3, "126,1.25,1.25,1.25,1.25,1.25,1.25,1.25,1.25,1.25,1.25,1.25,1.25,", 5),
-      record('P', 4, "1.25,1.25;", 5)}},
+      record('P', 3, "126,56H" + A(56) + ",", 5), record('P', 4, "1.25;", 5)}},
     {"other delimiters",
-     [](igsOutStream& s) {
-       s.set_section(igsSectionParameter);
-       s.set_delimiters("|", "#");
-       s.write_integer(1);
-       s.write_double(2.5);
-       s.write_holerith("A,B");
-       s.set_backpointer(3);
-       s.write_double(-1e-20);
-       s.set_backpointer(5);
-     },
+     {{'P'}, {'d', "|#"}, {'i', "", 1}, {'r', "", 2.5}, {'h', "A,B"}, {'b', "", 3},
+      {'r', "", -1e-20}, {'b', "", 5}},
      {record('P', 1, "1|2.5|3HA,B#", 1), record('P', 2, "-1.D-20#", 3)}},
     {"a format pushed for parametric values, and one pop too many changes nothing",
-     [](igsOutStream& s) {
-       s.set_section(igsSectionParameter);
-       s.write_double(3.14159265358979);
-       s.push_double_format(20, 9);
-       s.write_double(-3.14159265358979e-10);
-       s.pop_double_format();
-       s.pop_double_format();
-       s.write_double(1.0 / 3.0);
-       s.set_backpointer(3);
-     },
+     {{'P'}, {'r', "", 3.14159265358979}, {'+', "", 0, 9}, {'r', "", -3.14159265358979e-10},
+      {'-'}, {'-'}, {'r', "", 1.0 / 3.0}, {'b', "", 3}},
      {record('P', 1, "3.14159265358979,-3.14159265D-10,0.333333333333333;", 1)}},
     {"an empty Global field is 0H, and leaving the section ends its record",
-     [](igsOutStream& s) {
-       s.set_section(igsSectionGlobal);
-       s.write_holerith(",");
-       s.write_holerith(";");
-       s.write_holerith("");
-       s.write_integer(5);
-       s.write_double(1e20);
-       s.set_section(igsSectionDirectory);
-     },
+     {{'G'}, {'h', ","}, {'h', ";"}, {'h', ""}, {'i', "", 5}, {'r', "", 1e20}, {'D'}},
      {record('G', 1, "1H,,1H;,0H,5,1.D+20;")}},
     {"a Global record delimiter in column 1 behind a full line",
-     [](igsOutStream& s) {
-       s.set_section(igsSectionGlobal);
-       s.write_holerith(A(69).c_str()); // all 72 columns
-       s.set_section(igsSectionTerminate);
-     },
+     {{'G'}, {'h', A(69)}, {'T'}},
      {record('G', 1, "69H" + A(69)), record('G', 2, ";")}},
-    {"changing the section with nothing written sends no line",
-     [](igsOutStream& s) {
-       s.set_section(igsSectionStart);
-       s.set_section(igsSectionDirectory);
-       s.set_section(igsSectionParameter);
-       s.set_backpointer(3); // no line started: only the record delimiter
-       s.set_section(igsSectionTerminate);
-       s.set_section(igsSectionStart);
-     },
+    {"changing the section with nothing written sends no line but a record delimiter",
+     {{'S'}, {'D'}, {'P'}, {'b', "", 3}, {'T'}, {'S'}},
      {record('P', 1, ";", 1)}},
+    // The caller's limit of a fixed field: a longer text starts with the field.
     {"fixed fields stand right-justified and a full line finishes itself",
-     [](igsOutStream& s) {
-       s.set_section(igsSectionDirectory);
-       s.write_integer(8, 5);
-       s.write_integer(8, -12);
-       s.write_string(8, "AB");
-       s.write_string(48, "");
-       s.write_integer(8, 1234567);  // a new line
-       s.write_string(3, "TOOLONG"); // the caller's limit: the text starts with the field
-     },
+     {{'D'}, {'f', "", 5, 8}, {'f', "", -12, 8}, {'s', "AB", 0, 8}, {'s', "", 0, 48},
+      {'f', "", 1234567, 8}, {'s', "TOOLONG", 0, 3}},
      {record('D', 1, "       5     -12      AB"), record('D', 2, " 1234567TOOLONG")}},
     {"a started line goes out when the stream is destroyed",
-     [](igsOutStream& s) {
-       s.set_section(igsSectionStart);
-       s.write_string(4, "ab");
-     },
+     {{'S'}, {'s', "ab", 0, 4}},
      {record('S', 1, "  ab")}},
-    {"lines before any section are all data",
-     [](igsOutStream& s) {
-       s.write_string(80, "X");
-       s.set_section(igsSectionGlobal);
-     },
-     {repeat(' ', 79) + "X"}},
+    {"lines before any section are all data", {{'s', "X", 0, 80}, {'G'}}, {repeat(' ', 79) + "X"}},
 };
 
 TEST(igsOutStream, LaysFieldsIntoLines) {
   for (auto const& c : layout_cases) {
     SCOPED_TRACE(c.what);
-    EXPECT_EQ(written(c.fill), c.expected);
+    EXPECT_EQ(written([&](igsOutStream& s) {
+                for (Op const& op : c.ops) run(s, op);
+              }),
+              c.expected);
   }
 }
 

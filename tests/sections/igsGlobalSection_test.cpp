@@ -182,6 +182,7 @@ TEST_F(GlobalSectionTest, ParametersLeftOutTakeTheirDefaultsAndSomeAreErrors) {
   EXPECT_EQ(global.file_creation_date().date_string(), fixed_today);
   EXPECT_EQ(global.max_coord_value(), DBL_MAX);
   EXPECT_EQ(global.name_of_author(), "unknown");
+  EXPECT_EQ(global.authors_organization(), "unknown");
   EXPECT_EQ(global.iges_version(), 3);
   EXPECT_EQ(global.drafting_standard(), 0);
 
@@ -192,6 +193,7 @@ TEST_F(GlobalSectionTest, ParametersLeftOutTakeTheirDefaultsAndSomeAreErrors) {
       "Defaulting the data for field 3 (\"product id from sending system\")\n"))
       << messages.text();
   EXPECT_EQ(global.system_id(), "Unknown");
+  EXPECT_EQ(global.preprocessor_version(), "Unknown");
   EXPECT_EQ(global.binary_bits_for_int(), 4);
   EXPECT_EQ(global.sp_max_pow10(), 38);
   EXPECT_EQ(global.dp_sig_digs(), 15);

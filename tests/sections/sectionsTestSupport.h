@@ -30,16 +30,10 @@ namespace igs_sections_test {
 
 using igs_input_test::Lines;
 using igs_input_test::record;
-using igs_output_test::lines_of;
 
 // 15 June 2024, 10:20:30: "today" for every test.
 inline void fixed_clock(int& year, int& month, int& day, int& hour, int& minute, int& second) {
-  year = 2024;
-  month = 6;
-  day = 15;
-  hour = 10;
-  minute = 20;
-  second = 30;
+  year = 2024, month = 6, day = 15, hour = 10, minute = 20, second = 30;
 }
 inline constexpr char fixed_today[] = "20240615.102030";
 
@@ -89,6 +83,7 @@ inline std::vector<igsError*> errors_in(igsLogID id) {
   return errors;
 }
 
+// Their texts.
 inline Lines describe(igsLogID id) {
   Lines texts;
   for (igsError* e : errors_in(id)) texts.push_back(ErrorText(*e).text());
