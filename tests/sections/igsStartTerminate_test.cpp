@@ -89,6 +89,7 @@ TEST_F(StartSectionTest, SetLineWriteAndReadBack) {
   EXPECT_EQ(start.set_line(-1, "x"), 0);
   EXPECT_EQ(start.set_line(1, utString()), 0);
   EXPECT_EQ(start.set_line(3, "Fourth line"), 1);
+  EXPECT_EQ(start.number_of_lines(), 4);
   EXPECT_EQ(lines_of(start), (Lines{std::string(72, 'x'), "(null)", "(null)", "Fourth line"}));
   utString text("unchanged");
   EXPECT_EQ(start.line(4, text) + start.line(-1, text), 0);
