@@ -1,6 +1,7 @@
 // The Directory Entry: its two D lines written and read back, its setters, copy and print.
 #include "sectionsTestSupport.h"
 
+#include <array>
 #include <cstdio>
 
 using namespace igs_sections_test;
@@ -157,35 +158,26 @@ TEST_F(DirectoryEntryTest, ReadingTakesBlankFieldsAsZeroAndKeepsEverythingElse) 
       record('P', 1, "110,0.,0.,0.,1.,1.,1.;", 1)};
   std::vector<igsDirectoryFields> read = read_des(lines);
   ASSERT_EQ(read.size(), 2u);
-  igsDirectoryFields blank;
-  blank.line = 1;
-  blank.entity_type = blank.second_entity_type = 110;
-  blank.level = -5;
-  blank.matrix = -3;
-  blank.form_number = 1;
-  blank.reserved = "RESERVED   RSVD ";
-  blank.entity_label = " A LABEL";
+  // The line, the 12 numbers of the first D line, the 5 of the second, the subscript.
+  auto fields = [](std::array<int, 19> n, char const* reserved, char const* label) {
+    igsDirectoryFields f;
+    int* const numbers[] = {&f.line, &f.entity_type, &f.parameter_data, &f.structure,
+                            &f.line_font, &f.level, &f.view, &f.matrix, &f.label_display,
+                            &f.blank_status, &f.subordinate_status, &f.entity_use, &f.hierarchy,
+                            &f.second_entity_type, &f.line_weight_number, &f.colour,
+                            &f.parameter_line_count, &f.form_number, &f.entity_subscript};
+    for (size_t i = 0; i < n.size(); ++i) *numbers[i] = n[i];
+    f.reserved = reserved;
+    f.entity_label = label;
+    return f;
+  };
+  igsDirectoryFields const blank = fields(
+      {1, 110, 0, 0, 0, -5, 0, -3, 0, 0, 0, 0, 0, 110, 0, 0, 0, 1, 0}, "RESERVED   RSVD ", " A LABEL");
+  // The file reader compares the two type numbers.
+  igsDirectoryFields const second =
+      fields({3, 124, 7, 12, 9, 1000000, 5, 9, 6, 1, 2, 3, 4, 126, -2, 12, 3, 7, -1},
+             "                ", "       X");
   EXPECT_EQ(read[0], blank);
-  igsDirectoryFields second;
-  second.line = 3;
-  second.entity_type = 124;
-  second.second_entity_type = 126; // the file reader compares the two
-  second.parameter_data = 7;
-  second.structure = 12;
-  second.line_font = 9;
-  second.level = 1000000;
-  second.view = 5;
-  second.matrix = 9;
-  second.label_display = 6;
-  second.blank_status = 1, second.subordinate_status = 2, second.entity_use = 3;
-  second.hierarchy = 4;
-  second.line_weight_number = -2;
-  second.colour = 12;
-  second.parameter_line_count = 3;
-  second.form_number = 7;
-  second.reserved = std::string(16, ' ').c_str();
-  second.entity_label = "       X";
-  second.entity_subscript = -1;
   EXPECT_EQ(read[1], second);
 
   // Stored in a Directory Entry: minus a DE number is a definition, a view or matrix that is
