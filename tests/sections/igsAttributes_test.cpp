@@ -39,9 +39,9 @@ TEST(igsStatusFlags, EachDigitHasItsRangeAndFallsBackOutOfIt) {
   }
   // Each digit at its own limit.
   EXPECT_TRUE(igsStatusFlags(1, 3, 6, 2).valid());
-  for (igsStatusFlags over : {igsStatusFlags(2, 3, 6, 2), igsStatusFlags(1, 4, 6, 2),
-                              igsStatusFlags(1, 3, 7, 2), igsStatusFlags(1, 3, 6, 3),
-                              igsStatusFlags(0, 0, 0, INT_MIN)})
+  for (igsStatusFlags over :
+       {igsStatusFlags(2, 3, 6, 2), igsStatusFlags(1, 4, 6, 2), igsStatusFlags(1, 3, 7, 2),
+        igsStatusFlags(1, 3, 6, 3), igsStatusFlags(0, 0, 0, INT_MIN)})
     EXPECT_FALSE(over.valid());
   EXPECT_EQ(printed(igsStatusFlags(1, 2, 3, 4)), "BlankStatus = 1(Blanked)\n"
                                                  "SubordinateStatus = 2(Logically Dependent)\n"
@@ -177,8 +177,8 @@ TEST_F(AttributeTest, LevelsViewsAndClassesByName) {
 
   // Views: without a reference only number 0 is valid; a DE number binds a reference, valid
   // for a view or a views visible list.
-  auto* view = new fake::igs410_0;     // DE 7
-  auto* visible = new fake::igs402_3;  // DE 9
+  auto* view = new fake::igs410_0;    // DE 7
+  auto* visible = new fake::igs402_3; // DE 9
   std::tuple<int, int, int> const views[] = {{1, 0, 0}, {0, 0, 1}, {-3, -3, 0}, {7, 0, 1},
                                              {9, 0, 1}, {5, 0, 0}, {11, 0, 1}};
   for (auto const& [value, number, valid] : views) {

@@ -161,18 +161,33 @@ TEST_F(DirectoryEntryTest, ReadingTakesBlankFieldsAsZeroAndKeepsEverythingElse) 
   // The line, the 12 numbers of the first D line, the 5 of the second, the subscript.
   auto fields = [](std::array<int, 19> n, char const* reserved, char const* label) {
     igsDirectoryFields f;
-    int* const numbers[] = {&f.line, &f.entity_type, &f.parameter_data, &f.structure,
-                            &f.line_font, &f.level, &f.view, &f.matrix, &f.label_display,
-                            &f.blank_status, &f.subordinate_status, &f.entity_use, &f.hierarchy,
-                            &f.second_entity_type, &f.line_weight_number, &f.colour,
-                            &f.parameter_line_count, &f.form_number, &f.entity_subscript};
+    int* const numbers[] = {&f.line,
+                            &f.entity_type,
+                            &f.parameter_data,
+                            &f.structure,
+                            &f.line_font,
+                            &f.level,
+                            &f.view,
+                            &f.matrix,
+                            &f.label_display,
+                            &f.blank_status,
+                            &f.subordinate_status,
+                            &f.entity_use,
+                            &f.hierarchy,
+                            &f.second_entity_type,
+                            &f.line_weight_number,
+                            &f.colour,
+                            &f.parameter_line_count,
+                            &f.form_number,
+                            &f.entity_subscript};
     for (size_t i = 0; i < n.size(); ++i) *numbers[i] = n[i];
     f.reserved = reserved;
     f.entity_label = label;
     return f;
   };
-  igsDirectoryFields const blank = fields(
-      {1, 110, 0, 0, 0, -5, 0, -3, 0, 0, 0, 0, 0, 110, 0, 0, 0, 1, 0}, "RESERVED   RSVD ", " A LABEL");
+  igsDirectoryFields const blank =
+      fields({1, 110, 0, 0, 0, -5, 0, -3, 0, 0, 0, 0, 0, 110, 0, 0, 0, 1, 0}, "RESERVED   RSVD ",
+             " A LABEL");
   // The file reader compares the two type numbers.
   igsDirectoryFields const second =
       fields({3, 124, 7, 12, 9, 1000000, 5, 9, 6, 1, 2, 3, 4, 126, -2, 12, 3, 7, -1},

@@ -79,14 +79,19 @@ TEST_F(GlobalSectionTest, AFullSectionReadsWritesAndReadsBack) {
     texts.push_back(std::string(text->view()));
   EXPECT_EQ(texts, (Lines{"Product", "part.igs", "Sender", "5.3a", "Receive", "INCH",
                           "20240102.030405", "Author", "Org", "20240203.040506"}));
-  std::vector<double> const numbers = {
-      double(global.binary_bits_for_int()), double(global.sp_max_pow10()),
-      double(global.sp_sig_digs()),         double(global.dp_max_pow10()),
-      double(global.dp_sig_digs()),         global.model_space_scale(),
-      double(global.units().type()),        double(global.max_number_of_line_weights()),
-      global.width_of_max_line_weight(),    global.minimum_resolution(),
-      global.max_coord_value(),             double(global.iges_version()),
-      double(global.drafting_standard())};
+  std::vector<double> const numbers = {double(global.binary_bits_for_int()),
+                                       double(global.sp_max_pow10()),
+                                       double(global.sp_sig_digs()),
+                                       double(global.dp_max_pow10()),
+                                       double(global.dp_sig_digs()),
+                                       global.model_space_scale(),
+                                       double(global.units().type()),
+                                       double(global.max_number_of_line_weights()),
+                                       global.width_of_max_line_weight(),
+                                       global.minimum_resolution(),
+                                       global.max_coord_value(),
+                                       double(global.iges_version()),
+                                       double(global.drafting_standard())};
   EXPECT_EQ(numbers, (std::vector<double>{32, 38, 6, 308, 15, 2.5, 1, 8, 0.7, 0.001, 500, 11, 3}));
   EXPECT_EQ(bad_line_numbers + blank_lines, 0);
   // The stream stands at the first D line, ready for the Directory section.
@@ -187,8 +192,17 @@ TEST_F(GlobalSectionTest, ParametersLeftOutTakeTheirDefaultsAndSomeAreErrors) {
   EXPECT_EQ(read(",,;"), 1);
   // Those without a default: field number and type of each.
   Lines expected;
-  for (auto [field, type] : {std::pair{3, 1}, {5, 1}, {6, 1}, {7, 2}, {8, 2}, {9, 2}, {10, 2},
-                             {11, 2}, {14, 2}, {18, 1}, {19, 3}})
+  for (auto [field, type] : {std::pair{3, 1},
+                             {5, 1},
+                             {6, 1},
+                             {7, 2},
+                             {8, 2},
+                             {9, 2},
+                             {10, 2},
+                             {11, 2},
+                             {14, 2},
+                             {18, 1},
+                             {19, 3}})
     expected.push_back("igsGlobalSectionIllegalDefault(" + std::to_string(field) + "," +
                        std::to_string(type) + ")");
   EXPECT_EQ(describe(igsGlobalLog), expected);
@@ -246,8 +260,8 @@ TEST_F(GlobalSectionTest, LineWeightsOutOfRangeAreHeldAtTheLimits) {
     Lines errors = describe(igsGlobalLog);
     EXPECT_EQ(errors.size(), static_cast<size_t>(raised));
     if (raised)
-      EXPECT_EQ(errors[0], "igsGlobalSectionInvalidMaxNumLineWeightGrads(" +
-                               std::to_string(stored) + ")");
+      EXPECT_EQ(errors[0],
+                "igsGlobalSectionInvalidMaxNumLineWeightGrads(" + std::to_string(stored) + ")");
     EXPECT_EQ(fix_all(igsGlobalLog), std::vector<int>(errors.size(), 1));
     EXPECT_EQ(global.max_number_of_line_weights(), stored);
   }
@@ -291,9 +305,9 @@ TEST_F(GlobalSectionTest, LinesOutOfSequenceBlankLinesAndDataAfterTheRecordEnd) 
   EXPECT_EQ(type, "     116");
 
   // A line out of sequence met by the read of the units flag, the first of a pair.
-  EXPECT_EQ(read(Lines{record('G', 1, "1H,,1H;," + std::string(11, ',')), record('G', 3, "2,2HMM;"),
-                       d1}),
-            1);
+  EXPECT_EQ(
+      read(Lines{record('G', 1, "1H,,1H;," + std::string(11, ',')), record('G', 3, "2,2HMM;"), d1}),
+      1);
   EXPECT_EQ(global.units().name(), "MM");
   EXPECT_EQ(bad_line_numbers, 1);
   // The units pair read alone.
@@ -379,8 +393,11 @@ TEST_F(GlobalSectionTest, CheckRaisesEveryValueOutOfRangeInOrderAndRepairs) {
 
   // The other ranges, each at its limit, as a file holds them.
   std::string data = full;
-  for (auto [from, to] : {std::pair{"32,38,6,308,15", "3,37,5,37,5"}, {"2.5", "0.0"},
-                          {"0.7", "-.1"}, {"0.001", "1E-16"}, {"11,3,15H20240203.040506", "1,7"}})
+  for (auto [from, to] : {std::pair{"32,38,6,308,15", "3,37,5,37,5"},
+                          {"2.5", "0.0"},
+                          {"0.7", "-.1"},
+                          {"0.001", "1E-16"},
+                          {"11,3,15H20240203.040506", "1,7"}})
     data.replace(data.find(from), std::string(from).size(), to);
   ASSERT_EQ(read(data), 1);
   global.check();

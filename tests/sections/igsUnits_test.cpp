@@ -10,14 +10,14 @@ igsUnitType unit(int flag) {
 
 TEST(igsUnits, NamesAreReadInAnyCaseAndWrittenByFlag) {
   std::pair<char const*, int> const read[] = {
-      {"IN", 1},      {"inch", 1},  {"Mm", 2},  {"ft", 4},   {"MI", 5},  {"m", 6},
-      {"KM", 7},      {"mil", 8},   {"UM", 9},  {"cm", 10},  {"uIn", 11}, {"UNKNOWN", 0},
-      {"INCHES", 0},  {"MM ", 0},   {" MM", 0}, {"MMM", 0},  {"I", 0},   {"", 0}};
+      {"IN", 1},     {"inch", 1}, {"Mm", 2},  {"ft", 4},  {"MI", 5},   {"m", 6},
+      {"KM", 7},     {"mil", 8},  {"UM", 9},  {"cm", 10}, {"uIn", 11}, {"UNKNOWN", 0},
+      {"INCHES", 0}, {"MM ", 0},  {" MM", 0}, {"MMM", 0}, {"I", 0},    {"", 0}};
   for (auto const& [name, flag] : read) EXPECT_EQ(igsUnits::type(name), flag) << name;
   EXPECT_EQ(igsUnits::type(utString()), igsUnitUnknown);
   EXPECT_EQ(igsUnits::type(utString("MM\0", 3)), igsUnitUnknown);
-  std::pair<int, char const*> const written[] = {
-      {0, "UNKNOWN"}, {1, "INCH"}, {3, "UNKNOWN"}, {11, "UIN"}, {12, "UNKNOWN"}, {-1, "UNKNOWN"}};
+  std::pair<int, char const*> const written[] = {{0, "UNKNOWN"}, {1, "INCH"},     {3, "UNKNOWN"},
+                                                 {11, "UIN"},    {12, "UNKNOWN"}, {-1, "UNKNOWN"}};
   for (auto const& [flag, name] : written) EXPECT_EQ(igsUnits::name(unit(flag)), name) << flag;
 }
 
@@ -26,10 +26,10 @@ TEST(igsUnits, ConversionFactorsAgreeWithKnownLengthsAndBothWays) {
   struct Case {
     int from, to;
     double factor;
-  } const cases[] = {{1, 2, 25.4},  {4, 1, 12},        {5, 4, 5280},   {1, 8, 1000},  {11, 9, 0.0254},
-                     {6, 2, 1000},  {7, 6, 1000},      {10, 2, 10},    {3, 1, 1 / 25.4}, {2, 2, 1},
-                     {0, 2, 0},     {2, 0, 0},         {0, 0, 1},      {12, 2, 0},    {2, -1, 0},
-                     {12, 12, 0}};
+  } const cases[] = {{1, 2, 25.4},     {4, 1, 12},   {5, 4, 5280}, {1, 8, 1000},
+                     {11, 9, 0.0254},  {6, 2, 1000}, {7, 6, 1000}, {10, 2, 10},
+                     {3, 1, 1 / 25.4}, {2, 2, 1},    {0, 2, 0},    {2, 0, 0},
+                     {0, 0, 1},        {12, 2, 0},   {2, -1, 0},   {12, 12, 0}};
   for (Case const& c : cases)
     EXPECT_DOUBLE_EQ(igsUnits::convert_between_units(unit(c.from), unit(c.to)), c.factor)
         << c.from << " to " << c.to;
@@ -46,9 +46,10 @@ TEST(igsUnits, FlagAndNameAgreement) {
     int flag;
     char const* name;
     int agree;
-  } const cases[] = {{2, "mm", 1}, {1, "IN", 1},  {1, "Inch", 1},    {11, "UIN", 1}, {2, "IN", 0},
-                     {6, "MI", 0}, {0, "MM", 0},  {0, "UNKNOWN", 0}, {3, "FT", 1},   {3, "", 0},
-                     {3, "PARSEC", 0}, {12, "MM", 0}, {-1, "MM", 0}};
+  } const cases[] = {{2, "mm", 1}, {1, "IN", 1}, {1, "Inch", 1},   {11, "UIN", 1},
+                     {2, "IN", 0}, {6, "MI", 0}, {0, "MM", 0},     {0, "UNKNOWN", 0},
+                     {3, "FT", 1}, {3, "", 0},   {3, "PARSEC", 0}, {12, "MM", 0},
+                     {-1, "MM", 0}};
   for (Case const& c : cases)
     EXPECT_EQ(igsUnits::check_units(unit(c.flag), c.name), c.agree) << c.flag << " " << c.name;
   // A flag alone reads with an empty name, and a copy changes alone.
