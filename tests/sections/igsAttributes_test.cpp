@@ -119,6 +119,7 @@ TEST_F(AttributeTest, ColourNumbersDefinitionsAndNames) {
     EXPECT_EQ(colour.colour_value(), v) << v;
   }
   EXPECT_EQ(printed(igsColour(9)), "9(Unknown colour)");
+  EXPECT_TRUE(igsColour(INT_MIN).predefined_colour()); // INT_MIN names no DE
 
   auto* node = new deNode;
   auto* definition = new fake::igs314;
