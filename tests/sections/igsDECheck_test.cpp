@@ -69,7 +69,9 @@ TEST_F(DECheckTest, EachClassRunsItsSelectionOfStepsInTheirOrder) {
     entity->directory_entry().set_fields(bad_fields(list->de_number(), matrix->de_number()));
     EXPECT_EQ(entity->check(), c.errors.empty());
     EXPECT_EQ(raised_for(entity), c.errors);
-    if (c.steps == IGS_DE_ALL) EXPECT_EQ(describe(igsObjectLog)[3], "testDENodeBadData()@3");
+    if (c.steps == IGS_DE_ALL) {
+      EXPECT_EQ(describe(igsObjectLog)[3], "testDENodeBadData()@3");
+    }
   }
 
   // A sound entry raises nothing; a re-check starts clean.

@@ -114,8 +114,9 @@ TEST_F(igsDateTest, TodayAndWrittenDatesInTheFormOfTheirYearReadBack) {
   for (auto const& [year, text] : written) {
     EXPECT_EQ(probe.encode_date_string(year, 2, 28, 13, 14, 15), text);
     int ok = 0;
-    if (year < 1901 || year > 1926)
+    if (year < 1901 || year > 1926) {
       EXPECT_EQ(decode(text, ok), (Parts{year, 2, 28, 13, 14, 15})) << text;
+    }
   }
 
   igsDate date(utString("20250101.120000"));

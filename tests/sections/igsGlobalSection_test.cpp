@@ -166,7 +166,9 @@ TEST_F(GlobalSectionTest, DelimitersAreTheHollerithCharacterOrTheDefaults) {
     EXPECT_EQ(global.parameter_delimiter(), c.parameter);
     EXPECT_EQ(global.record_delimiter(), c.record);
     Lines raised = describe(igsGlobalLog);
-    if (!c.result) EXPECT_EQ(raised.empty() ? "" : raised.front(), c.error);
+    if (!c.result) {
+      EXPECT_EQ(raised.empty() ? "" : raised.front(), c.error);
+    }
   }
   // The fields behind delimiters of a file's own are read with them.
   ASSERT_EQ(read("1H;;1H,;4HPART;;6HSender,"), 1);
@@ -251,9 +253,10 @@ TEST_F(GlobalSectionTest, LineWeightsOutOfRangeAreHeldAtTheLimits) {
     ASSERT_EQ(read(head + field + ",0.,13H240101.120000,1E-6,1000.,1HA,1HO,11,0;"), 1);
     Lines errors = describe(igsGlobalLog);
     EXPECT_EQ(errors.size(), static_cast<size_t>(raised));
-    if (raised)
+    if (raised) {
       EXPECT_EQ(errors[0],
                 "igsGlobalSectionInvalidMaxNumLineWeightGrads(" + std::to_string(stored) + ")");
+    }
     EXPECT_EQ(fix_all(igsGlobalLog), std::vector<int>(errors.size(), 1));
     EXPECT_EQ(global.max_number_of_line_weights(), stored);
   }
