@@ -150,7 +150,9 @@ TEST_F(GlobalSectionTest, DelimitersAreTheHollerithCharacterOrTheDefaults) {
       {"1H||1H#|4HPART#", 1, '|', '#', ""},
       {"1H;;1H,;4HPART;;6HSender,", 1, ';', ',', ""}, // the two swapped
       {"1H|,1H;,", 0, ',', ';', ""},                  // the character behind must be the delimiter
-      {"1H||2H;#|", 0, '|', ';', ""},                 // a record delimiter of two characters
+      {"1H||2H;#|", 0, '|', ';', ""},
+      {"1X,,1H;;", 0, ',', ';',
+       ""}, // a count of 1 with no H                 // a record delimiter of two characters
       {"|,;", 0, ',', ';', "igsGlobalSectionInvalidParamDelim('|')"},
       {" 1H,,1H;;", 0, ',', ';', "igsGlobalSectionInvalidParamDelim(' ')"},
       {"1HDD1H;D", 0, ',', ';', "igsGlobalSectionInvalidParamDelim('D')"},
@@ -236,6 +238,12 @@ TEST_F(GlobalSectionTest, ParametersLeftOutTakeTheirDefaultsAndSomeAreErrors) {
   EXPECT_EQ(messages.text(),
             "Warning : Invalid data has been found in the global section of the file.\n");
   EXPECT_EQ(global.repair_parameter(igsGPFileName), 0);
+  { // Repairs keyed to no section do nothing.
+    igsGlobalSectionUnitNameTypeMismatch mismatch(igsUnitMillimeter, "IN");
+    igsGlobalSectionInvalidUnitsFlag flag(12);
+    igsGlobalSectionInvalidIgesVersion version(12);
+    EXPECT_EQ(mismatch.fix() + flag.fix() + version.fix(), 0);
+  }
   EXPECT_EQ(global.repair_parameter(static_cast<igsGlobalParameter>(99)), 0);
   EXPECT_EQ(global.file_name(), "");
 

@@ -46,6 +46,7 @@ TEST(utString, NullEmptySharingDetachAndSubstrings) {
     EXPECT_EQ(std::string(sub.view()), c.text) << c.start << "," << c.length;
     EXPECT_EQ(sub.length(), static_cast<int>(std::strlen(c.text)));
   }
+  EXPECT_FALSE(utString(a, 5, 1).is_null()); // the empty end of the text
   EXPECT_TRUE(utString(a, 6, 1).is_null());
   EXPECT_TRUE(utString(a, -1, 1).is_null());
 
@@ -212,6 +213,7 @@ TEST(Geometry, UnsetValuesLengthsMatricesAndTransforms) {
   EXPECT_TRUE(l < giLength(5.5));
   EXPECT_DOUBLE_EQ(static_cast<double>(l), 5.0);
   EXPECT_TRUE(giPoint2(1, 1).coincident(giPoint2(1, 1.0000001), 1e-6));
+  EXPECT_TRUE(giPoint2(0, 0).coincident(giPoint2(0, 0.5), 0.5)); // at the tolerance itself
   EXPECT_DOUBLE_EQ(utMath::pow(10.0, -3), 0.001);
   EXPECT_DOUBLE_EQ(utMath::pow(2.0, 10), 1024.0);
   giVector3 v(0, 0, 2);
