@@ -3,6 +3,7 @@
 #include "core/igsCurrentFileScope.h"
 #include "core/igsNull.h"
 #include "support/kvnabs.h"
+#include "support/wholeRoad.h"
 
 #include <cstdlib>
 #include <fstream>
@@ -139,7 +140,15 @@ void expect_damage(Damage const& damage) {
     f.file->clean(0);
     EXPECT_EQ(f.messages.text(), damage.message);
     EXPECT_EQ(f.checked(), damage.left);
-    auto faults = igs_test::round_trip_faults(*f.file, "clean(0)");
+    std::vector<std::string> faults;
+    bool holds_null = false;
+    for (igsFileIT it(f.file.get()); ++it;) holds_null = holds_null || it()->isa(igsNull::type());
+    if (holds_null) {
+      igs_test::SilentOutput sink;
+      igs_test::judge_written_text(*f.file, sink, "clean(0)", faults);
+    } else {
+      faults = igs_test::round_trip_faults(*f.file, "clean(0)");
+    }
     EXPECT_TRUE(faults.empty()) << faults_text(faults);
   }
   // What stays bad goes with clean(1): what is left has no error, and its text reads back to
@@ -151,7 +160,7 @@ void expect_damage(Damage const& damage) {
   int result = 0;
   auto again = igs_test::read_text(igs_test::written_text(*f.file), result);
   EXPECT_EQ(result, 1);
-  EXPECT_EQ(checked(*again), std::vector<std::string>{}) << "what clean(1) left, read back";
+  EXPECT_EQ(checked(*again), damage.kept) << "what clean(1) left, read back";
   auto faults = igs_test::round_trip_faults(*again, "clean(1)");
   EXPECT_TRUE(faults.empty()) << faults_text(faults);
 }
