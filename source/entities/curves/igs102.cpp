@@ -92,6 +92,7 @@ void igs102::print_pd_data(utOstream& out) const {
 // lone point none. A null member leaves the mark of a point before it standing.
 void igs102::check_pd() const {
   int n = m_curves.size();
+  m_index.reset(n);
   if (n == 0) {
     raise_error<igs102NoSubCurves>();
     return;

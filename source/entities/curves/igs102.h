@@ -1,6 +1,7 @@
 // The composite curve (type 102): curves and points joined end to end, in order. A member
 // that stays broken after its own repairs is dropped from the list; the index list keeps the
-// positions as read meaningful for the errors that name them.
+// positions that errors name meaningful while members go. A check names the members where
+// they stand, so it starts the index list afresh.
 #pragma once
 
 #include "entities/igsEntity.h"
@@ -34,5 +35,5 @@ class igs102 : public igsCurve {
 
  private:
   igsObjectPtrcoDynArr m_curves;
-  igsIndexList m_index;
+  mutable igsIndexList m_index;
 };
