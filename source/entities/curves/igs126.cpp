@@ -136,9 +136,12 @@ int igs126::read_knots(igsInStream& in) {
   return read_values(in, 0, number_of_knots());
 }
 
-// All weights, then the control points: the order of the store.
+// All weights, then the control points: the order of the store. A store that grew while
+// reading gives back the room it did not fill.
 int igs126::read_homogenous_control_points(igsInStream& in) {
-  return read_values(in, number_of_knots(), 4 * m_size);
+  if (!read_values(in, number_of_knots(), 4 * m_size)) return 0;
+  if (m_values.size() > igs_max_initial_reserve) m_values.shrink(m_values.size(), 1);
+  return 1;
 }
 
 int igs126::read_parametric_limits(igsInStream& in) {
