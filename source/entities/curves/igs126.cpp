@@ -15,7 +15,9 @@ static long long number_of_values(long long order, long long size) {
   return order + size + 4 * size;
 }
 
+// A record read again into the same curve starts from an empty store.
 int igs126::size_curve(int order, int size, int room) {
+  m_values.clear();
   if (!m_values.expand(room)) return 0;
   for (double& value : m_values) value = igs_unset_double;
   m_order = order;
