@@ -1,9 +1,9 @@
 // Reading a whole file: a generated file of more than 50 MB (of points, lines and arcs; of
-// B-spline curves) is read with igsFile::read. Beside it, in the same iteration, a floor: the same text taken line by
-// line with std::getline, with every real of the P lines converted by std::from_chars. The
-// counters give both speeds in MB/s, the entities read per second, the ratio of the two times
-// (floor / ours: 1 would be as fast as the floor), and the heap that reading holds at its
-// peak, per entity, counted by the global operator new of this program.
+// B-spline curves) is read with igsFile::read. Beside it, in the same iteration, a floor: the
+// same text taken line by line with std::getline, with every real of the P lines converted by
+// std::from_chars. The counters give both speeds in MB/s, the entities read per second, the
+// ratio of the two times (floor / ours: 1 would be as fast as the floor), and the heap that
+// reading holds at its peak, per entity, counted by the global operator new of this program.
 #include "core/igsFile.h"
 #include "support/utOstream.h"
 

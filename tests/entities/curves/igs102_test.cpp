@@ -52,9 +52,9 @@ TEST_F(Composite102Test, MembersDroppedFromABuiltCurveAreFollowedByPosition) {
 
   // A check names the members where they stand now. The unset lines fail their checks, and
   // the repairs drop them, the second found where the first left it.
-  EXPECT_EQ(checked(*composite), (std::vector<std::string>{
-                                     "igs102InvalidSubCurveData(position=0)",
-                                     "igs102InvalidSubCurveData(position=1)"}));
+  EXPECT_EQ(checked(*composite),
+            (std::vector<std::string>{"igs102InvalidSubCurveData(position=0)",
+                                      "igs102InvalidSubCurveData(position=1)"}));
   EXPECT_EQ(composite->get_index(1), 1);
   EXPECT_EQ(fix(composite->de_number(), igs102InvalidSubCurveData::type()), 1);
   EXPECT_EQ(composite->get_index(1), 0);
