@@ -128,6 +128,15 @@ void expect_family(Family const& family) {
   EXPECT_TRUE(faults.empty()) << faults_text(faults);
 }
 
+std::string written_record(igsFile& file, int de_number) {
+  std::string const text = igs_test::written_text(file);
+  std::string record;
+  for (size_t at = 0; at + 80 <= text.size(); at += 81)
+    if (text[at + 72] == 'P' && std::atoi(text.substr(at + 65, 7).c_str()) == de_number)
+      record += text.substr(at, text.find_last_not_of(' ', at + 63) + 1 - at);
+  return record.substr(0, record.find(';') + 1);
+}
+
 void expect_damage(Damage const& damage) {
   SCOPED_TRACE(damage.what);
   std::string const text = file_text(damage.records);
@@ -139,6 +148,9 @@ void expect_damage(Damage const& damage) {
     f.file->clean(0);
     EXPECT_EQ(f.messages.text(), damage.message);
     EXPECT_EQ(f.checked(), damage.left);
+    if (!damage.repaired.empty()) {
+      EXPECT_EQ(written_record(*f.file, 1), damage.repaired);
+    }
     auto faults = igs_test::round_trip_faults(*f.file, "clean(0)");
     EXPECT_TRUE(faults.empty()) << faults_text(faults);
   }
