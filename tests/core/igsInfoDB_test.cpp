@@ -18,8 +18,8 @@ struct NamedNumber {
 
 // The tables against each other and against the reader's needs, rather than against a copy:
 // every known type's default form is a form of that type (the reader puts it in place of a bad
-// form), and the forms at the ends of each range the entity table registers a class for are forms of
-// the table.
+// form), and the forms at the ends of each range the entity table registers a class for are forms
+// of the table.
 TEST(igsInfoDB, DefaultFormsAndRegisteredFormsExist) {
   int known = 0;
   for (int type = -1100; type <= 1100; ++type) {

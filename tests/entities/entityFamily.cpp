@@ -74,8 +74,9 @@ void expect_fixture(std::filesystem::path const& path, std::string const& text) 
     std::ofstream(path, std::ios::binary) << text;
     return;
   }
-  EXPECT_EQ(igs_test::read_file(path), text) << path << " differs; IGS_UPDATE_FIXTURES=1 "
-                                                        "writes it anew";
+  EXPECT_EQ(igs_test::read_file(path), text) << path
+                                             << " differs; IGS_UPDATE_FIXTURES=1 "
+                                                "writes it anew";
 }
 
 std::string faults_text(std::vector<std::string> const& faults) {
@@ -129,12 +130,7 @@ void expect_family(Family const& family) {
 }
 
 std::string written_record(igsFile& file, int de_number) {
-  std::string const text = igs_test::written_text(file);
-  std::string record;
-  for (size_t at = 0; at + 80 <= text.size(); at += 81)
-    if (text[at + 72] == 'P' && std::atoi(text.substr(at + 65, 7).c_str()) == de_number)
-      record += text.substr(at, text.find_last_not_of(' ', at + 63) + 1 - at);
-  return record.substr(0, record.find(';') + 1);
+  return igs_test::written_record(igs_test::written_text(file), de_number);
 }
 
 void expect_damage(Damage const& damage) {

@@ -71,9 +71,8 @@ struct CorpusRow {
 };
 
 template <class T, class F> CorpusRow row(F values) {
-  return {&T::type(), [values](igsObject const& e, Values& v) {
-            values(static_cast<T const&>(e), v);
-          }};
+  return {&T::type(),
+          [values](igsObject const& e, Values& v) { values(static_cast<T const&>(e), v); }};
 }
 
 // Every row of every family, gathered as the corpus test binary starts.
@@ -124,10 +123,10 @@ void expect_family(Family const& family);
 struct Damage {
   char const* what;
   Records records;
-  std::vector<std::string> raised;  // what check finds
-  std::vector<std::string> left;    // what check finds after clean(0)
-  std::string message = {};         // what the repairs of clean(0) print, exactly
-  std::string repaired = {};        // if given: the record of DE 1 as written after clean(0)
+  std::vector<std::string> raised; // what check finds
+  std::vector<std::string> left;   // what check finds after clean(0)
+  std::string message = {};        // what the repairs of clean(0) print, exactly
+  std::string repaired = {};       // if given: the record of DE 1 as written after clean(0)
 };
 
 // The parameter record of the entity as the file writes it, from its type to the record
