@@ -80,7 +80,7 @@ TEST_F(ReadTest, UnknownTypesAndFormsAreDefaultedOrDropped) {
   int copious_form_99 = f.add(106, 99, {"106,1,2,0.,0.,0.;"});
   int no_such_type = f.add(999, 0, {"999,1,2,3;"});
   // A type and form of the tables for which no class exists: Unknown, without an error.
-  int without_class = f.add(126, 0, {"126,1,1,0,0,1,0,0.,0.,1.,1.;"});
+  int without_class = f.add(125, 0, {"125,1.,1.,0.,0.,0.,0;"});
   ASSERT_EQ(read(f.text()), 1);
   EXPECT_EQ(errors(), (Lines{"igsFileDefaultedForm(line=1,entity_type=110,form=7)",
                              "igsFileUnknownForm(line=3,entity_type=106,form=99)",
