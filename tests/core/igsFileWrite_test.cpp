@@ -248,6 +248,23 @@ TEST_F(WriteTest, NoTemporaryFileStaysWhateverHappensToTheDestination) {
       EXPECT_TRUE(fs::is_empty(write_dir)) << limit;
     }
   }
+  // A destination that refuses the copy of the P lines once and takes what follows, on a
+  // stream that would throw and so is not marked bad: the write still fails.
+  struct RefusesTheParameterLines : std::stringbuf {
+    std::streamsize refuse;
+    explicit RefusesTheParameterLines(std::streamsize n) : refuse(n) {}
+    std::streamsize xsputn(char const* s, std::streamsize n) override {
+      if (n != refuse) return std::stringbuf::xsputn(s, n);
+      refuse = -1;
+      return 0;
+    }
+  } refusing(static_cast<std::streamsize>(full.size() - p_start - line));
+  std::ostream once(&refusing);
+  once.exceptions(std::ios::badbit | std::ios::failbit);
+  std::ostringstream once_notes;
+  utOstream once_out(once_notes);
+  EXPECT_EQ(file->write(once, once_out), 0);
+  EXPECT_EQ(refusing.refuse, -1); // the copy was refused
   // A destination that failed before the write takes nothing.
   std::ostringstream failed;
   failed.setstate(std::ios::failbit);
