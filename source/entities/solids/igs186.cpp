@@ -10,7 +10,7 @@ int igs186::read_pd_data(igsInStream& in) {
   int count = 0;
   igs_read_oriented(in, outer);
   in.read_integer(count);
-  m_outer = outer;
+  m_outer = std::move(outer);
   m_voids.clear();
   if (count < 1) return 1;
   if (!igs_reserve(m_voids, count)) return 0;
@@ -70,7 +70,7 @@ int igs186OuterShellWrongShellType::fix() {
   igsOrientedShell outer;
   outer.set_shell(igsObjectPtr(shell->de_number()));
   outer.set_orientation(0);
-  solid->set_outer_shell(outer);
+  solid->set_outer_shell(std::move(outer));
   return 0;
 }
 

@@ -9,8 +9,8 @@
 class igsOrientedShell : public igsOrientedReference<igs514> {
  public:
   igsObjectPtr const& shell() const { return target(); }
-  int set_shell(igsObjectPtr const& shell) {
-    set_target(shell);
+  int set_shell(igsObjectPtr shell) {
+    set_target(std::move(shell));
     return 1;
   }
   void print_pd_data(utOstream& out) const {
@@ -27,14 +27,14 @@ class igs186 : public igsBrepEntity<class igsSolid> {
   int num_void_shells() const { return m_voids.size(); }
   // The void shell at the index; a default-made one outside the list.
   igsOrientedShell const& void_shell(int index) const { return igs_element(m_voids, index); }
-  int set_outer_shell(igsOrientedShell const& shell) {
-    m_outer = shell;
+  int set_outer_shell(igsOrientedShell shell) {
+    m_outer = std::move(shell);
     return 1;
   }
   // Copies the record in, growing the list to index + 1; 0 for a negative index or when the
   // list could not grow.
-  int set_void_shell(int index, igsOrientedShell const& shell) {
-    return igs_store_element(m_voids, index, shell, 1);
+  int set_void_shell(int index, igsOrientedShell shell) {
+    return igs_store_element(m_voids, index, std::move(shell), 1);
   }
 
  protected:

@@ -54,9 +54,9 @@ int igs504::read_pd_data(igsInStream& in) {
     int first_index = 0, second_index = 0;
     igs_read_fields(in, curve, first, first_index, second, second_index);
     igsEdge edge;
-    edge.set_curve(curve);
-    edge.set_first_vertex(first, igs_index_from_file(first_index));
-    edge.set_second_vertex(second, igs_index_from_file(second_index));
+    edge.set_curve(std::move(curve));
+    edge.set_first_vertex(std::move(first), igs_index_from_file(first_index));
+    edge.set_second_vertex(std::move(second), igs_index_from_file(second_index));
     if (!m_edges.append(std::move(edge))) return 0;
   }
   return 1;

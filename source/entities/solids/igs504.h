@@ -13,13 +13,14 @@ class igsEdge {
   igsObjectPtr const& second_vertex_list() const { return m_second_list; }
   int first_offset() const { return m_first_offset; }
   int second_offset() const { return m_second_offset; }
-  void set_curve(igsObjectPtr const& curve) { m_curve = curve; }
-  void set_first_vertex(igsObjectPtr const& list, int offset) {
-    m_first_list = list;
+  // The setters take references by value and move them in: see igs_store_element.
+  void set_curve(igsObjectPtr curve) { m_curve = std::move(curve); }
+  void set_first_vertex(igsObjectPtr list, int offset) {
+    m_first_list = std::move(list);
     m_first_offset = offset;
   }
-  void set_second_vertex(igsObjectPtr const& list, int offset) {
-    m_second_list = list;
+  void set_second_vertex(igsObjectPtr list, int offset) {
+    m_second_list = std::move(list);
     m_second_offset = offset;
   }
   // 1 when both lists are there and both offsets are not negative; neither the curve nor the

@@ -39,7 +39,7 @@ int igsOrientedEdge::valid() const {
   if (!list_fits(m_list, m_edge_type, count) || !igs_index_in(m_list_index, count) ||
       !igs_flag_valid(m_orientation))
     return 0;
-  return std::all_of(m_half_edges.begin(), m_half_edges.end(),
+  return std::all_of(begin(), end(),
                      [](igsHalfEdge const& h) { return h.valid(); });
 }
 
@@ -55,23 +55,40 @@ void igsOrientedEdge::print_pd_data(utOstream& out) const {
   out << "\n";
   out << "Orientation = " << igs_flag_word(m_orientation, "TRUE", "FALSE", "unknown orientation")
       << "\n";
-  out << "Number of half edges = " << m_half_edges.size() << "\n";
-  for (int j = 0; j < m_half_edges.size(); ++j)
-    igs_print_numbered(out, "Half Edge", j, " ",
-                       [&](utOstream& o) { m_half_edges[j].print_pd_data(o); });
+  out << "Number of half edges = " << size() << "\n";
+  for (int j = 0; j < size(); ++j)
+    igs_print_numbered(out, "Half Edge", j, " ", [&](utOstream& o) { (*this)[j].print_pd_data(o); });
 }
 
 void igsOrientedEdge::unreference_children() {
   m_list.unreference();
-  for (igsHalfEdge& half_edge : m_half_edges) half_edge.unreference_children();
+  for (igsHalfEdge& half_edge : *this) half_edge.unreference_children();
 }
 
 igsOrientedEdge const& igs508::oriented_edge(int index) const {
   return igs_element(m_oriented_edges, index);
 }
 
-int igs508::set_oriented_edge(int index, igsOrientedEdge const& oriented_edge) {
-  return igs_store_element(m_oriented_edges, index, oriented_edge, 1);
+int igs508::set_oriented_edge(int index, igsOrientedEdge oriented_edge) {
+  return igs_store_element(m_oriented_edges, index, std::move(oriented_edge), 1);
+}
+
+// The count pairs of flag and curve of one oriented edge, gathered in the scratch list and
+// handed to the record whole.
+static int read_half_edges(igsInStream& in, int count, igsHalfEdgecoDynArr& scratch,
+                           igsOrientedEdge& oriented) {
+  scratch.clear();
+  if (!igs_reserve(scratch, count)) return 0;
+  for (int j = 0; j < count && !in.frozen(); ++j) {
+    int flag = 0;
+    igsObjectPtr curve;
+    igs_read_fields(in, flag, curve);
+    igsHalfEdge half_edge;
+    half_edge.set_isoparametric(flag);
+    half_edge.set_curve(std::move(curve));
+    if (!scratch.append(std::move(half_edge))) return 0;
+  }
+  return oriented.set_half_edges(scratch);
 }
 
 // A negative count fails the read; the count of half edges is not tested, and one below 1
@@ -82,25 +99,17 @@ int igs508::read_pd_data(igsInStream& in) {
   if (count < 0) return 0;
   m_oriented_edges.clear();
   if (!igs_reserve(m_oriented_edges, count)) return 0;
+  igsHalfEdgecoDynArr scratch;
   for (int i = 0; i < count && !in.frozen(); ++i) {
     int type = 0, index = 0, orientation = 0, half_edges = 0;
     igsObjectPtr list;
     igs_read_fields(in, type, list, index, orientation, half_edges);
     igsOrientedEdge oriented;
     oriented.set_edge_type(type);
-    oriented.set_list(list);
+    oriented.set_list(std::move(list));
     oriented.set_list_index(igs_index_from_file(index));
     oriented.set_orientation(orientation);
-    if (half_edges > 0) oriented.set_num_half_edges(std::min(half_edges, igs_max_initial_reserve));
-    for (int j = 0; j < half_edges && !in.frozen(); ++j) {
-      int flag = 0;
-      igsObjectPtr curve;
-      igs_read_fields(in, flag, curve);
-      igsHalfEdge half_edge;
-      half_edge.set_isoparametric(flag);
-      half_edge.set_curve(curve);
-      if (!oriented.set_half_edge(j, half_edge)) return 0;
-    }
+    if (half_edges > 0 && !read_half_edges(in, half_edges, scratch, oriented)) return 0;
     if (!m_oriented_edges.append(std::move(oriented))) return 0;
   }
   return 1;
@@ -218,7 +227,7 @@ template <class Change> static int change_oriented_edge(int key, int i, Change c
   if (!loop || !igs_index_in(i, loop->num_oriented_edges())) return 0;
   igsOrientedEdge oriented = loop->oriented_edge(i);
   if (!change(oriented)) return 0;
-  return loop->set_oriented_edge(i, oriented);
+  return loop->set_oriented_edge(i, std::move(oriented));
 }
 
 // The type is made to agree with the class of the list.
@@ -249,7 +258,7 @@ int igs508HalfEdgeInvalidCurveFlag::fix() {
     if (!igs_index_in(j, oriented.num_half_edges())) return 0;
     igsHalfEdge half_edge = oriented.half_edge(j);
     half_edge.set_isoparametric(1);
-    return oriented.set_half_edge(j, half_edge);
+    return oriented.set_half_edge(j, std::move(half_edge));
   });
 }
 

@@ -11,7 +11,7 @@ int igs510::read_pd_data(igsInStream& in) {
   igsObjectPtr surface;
   int count = 0, outer = 0;
   igs_read_fields(in, surface, count, outer);
-  m_surface = surface;
+  m_surface = std::move(surface);
   m_outer_loop = outer;
   m_loops.clear();
   if (count < 1) return 1;

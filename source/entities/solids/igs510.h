@@ -19,14 +19,14 @@ class igs510 : public igsBrepEntity<igsObject> {
   int solid_id() const { return m_solid_id; }
 
   // Store without a test; a null surface too.
-  void set_basis_surface(igsObjectPtr const& surface) { m_surface = surface; }
+  void set_basis_surface(igsObjectPtr surface) { m_surface = std::move(surface); }
   void set_outer_loop(int flag) { m_outer_loop = flag; }
   void set_orientation(int orientation) { m_orientation = orientation; }
   void set_solid_id(int id) { m_solid_id = id; }
   // Stores the loop, growing the list to index + 1; 0 for a negative index or when the list
   // could not grow.
-  int set_loop(igsObjectPtr const& loop, int index) {
-    return igs_store_element(m_loops, index, loop, 1);
+  int set_loop(igsObjectPtr loop, int index) {
+    return igs_store_element(m_loops, index, std::move(loop), 1);
   }
 
  protected:

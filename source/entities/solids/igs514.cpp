@@ -100,5 +100,5 @@ int igs514OrientatedFaceInvalidOrientation::fix() {
   if (current < 0) return 1;
   igsOrientedFace face = shell->face(current);
   face.set_orientation(1);
-  return shell->set_face(current, face);
+  return shell->set_face(current, std::move(face));
 }

@@ -11,7 +11,7 @@
 class igsOrientedFace : public igsOrientedReference<igs510> {
  public:
   igsObjectPtr const& face() const { return target(); }
-  void set_face(igsObjectPtr const& face) { set_target(face); }
+  void set_face(igsObjectPtr face) { set_target(std::move(face)); }
   void print_pd_data(utOstream& out) const {
     print(out, "Face Ptr ", "First face orientated wrt surface = ");
   }
@@ -26,8 +26,8 @@ class igs514 : public igsBrepEntity<igsObject> {
   igsOrientedFace const& face(int index) const { return igs_element(m_faces, index); }
   // Copies the record in, growing the list to index + 1; 0 for a negative index or when the
   // list could not grow.
-  int set_face(int index, igsOrientedFace const& face) {
-    return igs_store_element(m_faces, index, face, 1);
+  int set_face(int index, igsOrientedFace face) {
+    return igs_store_element(m_faces, index, std::move(face), 1);
   }
   // Empties the list of faces and makes it the size, of default records; nothing for a
   // negative size. The index list stays as it is.

@@ -8,6 +8,8 @@
 #include "support/coDynArr.h"
 
 #include <climits>
+#include <new>
+#include <utility>
 
 // A list index as the file writes it (from 1) and as it is held (from 0). Both wrap at the
 // ends of int instead of overflowing, so that any number read is written back as it was.
@@ -32,13 +34,94 @@ template <class T> T const& igs_element(coDynArr<T> const& list, int index) {
   return igs_index_in(index, list.size()) ? list[index] : none;
 }
 // Stores the element at the index, growing the list to index + 1 where `grow` allows; 0 when
-// the index is outside what may be reached or the list could not grow.
-template <class T> int igs_store_element(coDynArr<T>& list, int index, T const& value, int grow) {
+// the index is outside what may be reached or the list could not grow. Taken by value and
+// moved in, so that a record made for the list registers its references once.
+template <class T> int igs_store_element(coDynArr<T>& list, int index, T value, int grow) {
   if (index < 0 || (index >= list.size() && (!grow || index == INT_MAX))) return 0;
   if (index >= list.size() && !list.expand(index + 1)) return 0;
-  list[index] = value;
+  list[index] = std::move(value);
   return 1;
 }
+
+// An array that holds exactly its elements, for members of records kept by the ten thousand:
+// a pointer and a count, where a growable array also keeps its capacity and growth step. It
+// grows by one reallocation to the size asked for; reading fills a growable array first and
+// hands it over whole. Elements are constructed in place and never copied bytewise, since
+// references register their own address.
+template <class T> class igsExactArray {
+ public:
+  igsExactArray() = default;
+  igsExactArray(igsExactArray const& other) { copy_from(other.m_data, other.m_size); }
+  igsExactArray(igsExactArray&& other) noexcept
+      : m_data(std::exchange(other.m_data, nullptr)), m_size(std::exchange(other.m_size, 0)) {}
+  igsExactArray& operator=(igsExactArray other) noexcept {
+    std::swap(m_data, other.m_data);
+    std::swap(m_size, other.m_size);
+    return *this;
+  }
+  ~igsExactArray() { destroy(m_data, m_size); }
+
+  int size() const { return m_size; }
+  T const& operator[](int index) const { return m_data[index]; }
+  T& operator[](int index) { return m_data[index]; }
+  T* begin() { return m_data; }
+  T* end() { return m_data + m_size; }
+  T const* begin() const { return m_data; }
+  T const* end() const { return m_data + m_size; }
+
+  // The element at the index; a default-made one outside the array.
+  T const& element(int index) const {
+    static T const none{};
+    return igs_index_in(index, m_size) ? m_data[index] : none;
+  }
+  // Stores the element, growing the array to index + 1 with default-made ones between; 0 for a
+  // negative index or when there was no memory.
+  int store(int index, T value) {
+    if (index < 0 || (index >= m_size && (index == INT_MAX || !resize(index + 1)))) return 0;
+    m_data[index] = std::move(value);
+    return 1;
+  }
+  // Takes the elements of the list, moved, in place of its own; 0 when there was no memory.
+  int take(coDynArr<T>& list) {
+    T* data = allocate(list.size());
+    if (list.size() && !data) return 0;
+    for (int i = 0; i < list.size(); ++i) new (data + i) T(std::move(list[i]));
+    destroy(m_data, m_size);
+    m_data = data;
+    m_size = list.size();
+    list.clear();
+    return 1;
+  }
+
+ private:
+  static T* allocate(int n) {
+    return n > 0 ? static_cast<T*>(::operator new(sizeof(T) * static_cast<size_t>(n), std::nothrow))
+                 : nullptr;
+  }
+  static void destroy(T* data, int n) {
+    for (int i = 0; i < n; ++i) data[i].~T();
+    ::operator delete(data, std::nothrow);
+  }
+  void copy_from(T const* data, int n) {
+    m_data = allocate(n);
+    if (!m_data) return;
+    for (int i = 0; i < n; ++i) new (m_data + i) T(data[i]);
+    m_size = n;
+  }
+  int resize(int n) {
+    T* data = allocate(n);
+    if (!data) return 0;
+    for (int i = 0; i < m_size; ++i) new (data + i) T(std::move(m_data[i]));
+    for (int i = m_size; i < n; ++i) new (data + i) T();
+    destroy(m_data, m_size);
+    m_data = data;
+    m_size = n;
+    return 1;
+  }
+
+  T* m_data = nullptr;
+  int m_size = 0;
+};
 
 // The kinds of child that a reference may name: any class derived from T, or exactly T.
 template <class T> int igs_kind_of(igsObject const& object) {
@@ -140,7 +223,7 @@ template <class Target> class igsOrientedReference {
   void unreference_children() { m_target.unreference(); }
   // The reference under the name that both records share.
   igsObjectPtr const& target() const { return m_target; }
-  void set_target(igsObjectPtr const& target) { m_target = target; }
+  void set_target(igsObjectPtr target) { m_target = std::move(target); }
 
  protected:
   // "<reference label> = {", the target or "(NullPointer)", "}"; then the flag's label and
@@ -160,7 +243,7 @@ template <class Record> void igs_read_oriented(igsInStream& in, Record& record) 
   igsObjectPtr target;
   int orientation = 0;
   igs_read_fields(in, target, orientation);
-  record.set_target(target);
+  record.set_target(std::move(target));
   record.set_orientation(orientation);
 }
 template <class Record> void igs_write_oriented(igsOutStream& out, Record const& record) {
