@@ -6,20 +6,11 @@ IGS_ENTITY_DEFINE(igs186, igsSolid, 186, 0, IGS_DE_ALL & ~IGS_DE_MATRIX)
 
 // A count of void shells below 1 reads none.
 int igs186::read_pd_data(igsInStream& in) {
-  igsOrientedShell outer;
+  m_outer = igs_read_oriented<igsOrientedShell>(in);
   int count = 0;
-  igs_read_oriented(in, outer);
   in.read_integer(count);
-  m_outer = std::move(outer);
-  m_voids.clear();
-  if (count < 1) return 1;
-  if (!igs_reserve(m_voids, count)) return 0;
-  for (int i = 0; i < count && !in.frozen(); ++i) {
-    igsOrientedShell shell;
-    igs_read_oriented(in, shell);
-    if (!m_voids.append(std::move(shell))) return 0;
-  }
-  return 1;
+  return igs_read_members(in, count, m_voids,
+                          [&] { return igs_read_oriented<igsOrientedShell>(in); });
 }
 
 void igs186::write_pd_data(igsOutStream& out) {

@@ -13,20 +13,16 @@ int igs502::set_vertex(int index, giPoint3 const& point) {
   return igs_store_element(m_vertices, index, point, 0);
 }
 
-// A negative count fails the read. A record that ends before its count gives the points it
-// holds, so that a damaged count costs neither time nor memory.
+// A negative count fails the read.
 int igs502::read_pd_data(igsInStream& in) {
   int count = 0;
   in.read_integer(count);
   if (count < 0) return 0;
-  m_vertices.clear();
-  if (!igs_reserve(m_vertices, count)) return 0;
-  for (int i = 0; i < count && !in.frozen(); ++i) {
+  return igs_read_members(in, count, m_vertices, [&] {
     giPoint3 point;
     igs_read_field(in, point);
-    if (!m_vertices.append(point)) return 0;
-  }
-  return 1;
+    return point;
+  });
 }
 
 void igs502::write_pd_data(igsOutStream& out) {

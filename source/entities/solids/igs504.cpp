@@ -46,10 +46,7 @@ int igs504::set_edge(int index, igsEdge const& edge) {
 int igs504::read_pd_data(igsInStream& in) {
   int count = 0;
   in.read_integer(count);
-  m_edges.clear();
-  if (count < 1) return 1;
-  if (!igs_reserve(m_edges, count)) return 0;
-  for (int i = 0; i < count && !in.frozen(); ++i) {
+  return igs_read_members(in, count, m_edges, [&] {
     igsObjectPtr curve, first, second;
     int first_index = 0, second_index = 0;
     igs_read_fields(in, curve, first, first_index, second, second_index);
@@ -57,9 +54,8 @@ int igs504::read_pd_data(igsInStream& in) {
     edge.set_curve(std::move(curve));
     edge.set_first_vertex(std::move(first), igs_index_from_file(first_index));
     edge.set_second_vertex(std::move(second), igs_index_from_file(second_index));
-    if (!m_edges.append(std::move(edge))) return 0;
-  }
-  return 1;
+    return edge;
+  });
 }
 
 void igs504::write_pd_data(igsOutStream& out) {

@@ -77,18 +77,16 @@ int igs508::set_oriented_edge(int index, igsOrientedEdge oriented_edge) {
 // handed to the record whole.
 static int read_half_edges(igsInStream& in, int count, igsHalfEdgecoDynArr& scratch,
                            igsOrientedEdge& oriented) {
-  scratch.clear();
-  if (!igs_reserve(scratch, count)) return 0;
-  for (int j = 0; j < count && !in.frozen(); ++j) {
+  int read = igs_read_members(in, count, scratch, [&] {
     int flag = 0;
     igsObjectPtr curve;
     igs_read_fields(in, flag, curve);
     igsHalfEdge half_edge;
     half_edge.set_isoparametric(flag);
     half_edge.set_curve(std::move(curve));
-    if (!scratch.append(std::move(half_edge))) return 0;
-  }
-  return oriented.set_half_edges(scratch);
+    return half_edge;
+  });
+  return read && oriented.set_half_edges(scratch);
 }
 
 // A negative count fails the read; the count of half edges is not tested, and one below 1
@@ -97,10 +95,9 @@ int igs508::read_pd_data(igsInStream& in) {
   int count = 0;
   in.read_integer(count);
   if (count < 0) return 0;
-  m_oriented_edges.clear();
-  if (!igs_reserve(m_oriented_edges, count)) return 0;
   igsHalfEdgecoDynArr scratch;
-  for (int i = 0; i < count && !in.frozen(); ++i) {
+  int half_edges_read = 1;
+  int read = igs_read_members(in, count, m_oriented_edges, [&] {
     int type = 0, index = 0, orientation = 0, half_edges = 0;
     igsObjectPtr list;
     igs_read_fields(in, type, list, index, orientation, half_edges);
@@ -109,10 +106,11 @@ int igs508::read_pd_data(igsInStream& in) {
     oriented.set_list(std::move(list));
     oriented.set_list_index(igs_index_from_file(index));
     oriented.set_orientation(orientation);
-    if (half_edges > 0 && !read_half_edges(in, half_edges, scratch, oriented)) return 0;
-    if (!m_oriented_edges.append(std::move(oriented))) return 0;
-  }
-  return 1;
+    if (half_edges > 0 && !read_half_edges(in, half_edges, scratch, oriented))
+      half_edges_read = 0;
+    return oriented;
+  });
+  return read && half_edges_read;
 }
 
 void igs508::write_pd_data(igsOutStream& out) {

@@ -13,15 +13,11 @@ int igs510::read_pd_data(igsInStream& in) {
   igs_read_fields(in, surface, count, outer);
   m_surface = std::move(surface);
   m_outer_loop = outer;
-  m_loops.clear();
-  if (count < 1) return 1;
-  if (!igs_reserve(m_loops, count)) return 0;
-  for (int i = 0; i < count && !in.frozen(); ++i) {
+  return igs_read_members(in, count, m_loops, [&] {
     igsObjectPtr loop;
     igs_read_field(in, loop);
-    if (!m_loops.append(std::move(loop))) return 0;
-  }
-  return 1;
+    return loop;
+  });
 }
 
 void igs510::write_pd_data(igsOutStream& out) {

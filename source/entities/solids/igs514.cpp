@@ -27,13 +27,8 @@ int igs514::remove_bad_faces() {
 int igs514::read_pd_data(igsInStream& in) {
   int count = 0;
   in.read_integer(count);
-  m_faces.clear();
-  int result = igs_reserve(m_faces, count > 0 ? count : 0);
-  for (int i = 0; result && i < count && !in.frozen(); ++i) {
-    igsOrientedFace face;
-    igs_read_oriented(in, face);
-    result = m_faces.append(std::move(face));
-  }
+  int result = igs_read_members(in, count, m_faces,
+                                [&] { return igs_read_oriented<igsOrientedFace>(in); });
   set_index_list();
   return result;
 }
