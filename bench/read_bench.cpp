@@ -1,9 +1,9 @@
-// Reading a whole file: a generated file of more than 50 MB (of points, lines and arcs; of
-// B-spline curves) is read with igsFile::read. Beside it, in the same iteration, a floor: the
-// same text taken line by line with std::getline, with every real of the P lines converted by
-// std::from_chars. The counters give both speeds in MB/s, the entities read per second, the
-// ratio of the two times (floor / ours: 1 would be as fast as the floor), and the heap that
-// reading holds at its peak, per entity, counted by the global operator new of this program.
+// Reading a whole file: a generated file of more than 50 MB of points, lines and arcs is read
+// with igsFile::read. Beside it, in the same iteration, a floor: the same text taken line by
+// line with std::getline, with every real of the P lines converted by std::from_chars. The
+// counters give both speeds in MB/s, the entities read per second, the ratio of the two times
+// (floor / ours: 1 would be as fast as the floor), and the heap that reading holds at its
+// peak, per entity, counted by the global operator new of this program.
 #include "core/igsFile.h"
 #include "support/utOstream.h"
 
@@ -105,15 +105,14 @@ struct Reals {
   }
 };
 
-// A generated file: one Start line, one Global line, then the entities that `fields` makes one
-// by one (it sets the type and gives the parameter record), their parameters split over as
-// many P lines of 64 columns as they need.
+// The file: one Start line, one Global line, then points, lines and arcs in turn, their
+// parameters split over as many P lines of 64 columns as they need.
 struct Generated {
   std::string text;
   int entities = 0;
 };
 
-template <class Fields> Generated generate(std::size_t at_least, Fields fields_of) {
+Generated generate(std::size_t at_least) {
   Generated g;
   std::string d, p;
   Reals reals;
@@ -125,8 +124,11 @@ template <class Fields> Generated generate(std::size_t at_least, Fields fields_o
   };
   while (d.size() + p.size() < at_least) {
     int de = 2 * g.entities + 1;
-    int type = 0;
-    std::string fields = fields_of(g.entities, reals, type);
+    int type = g.entities % 3 == 0 ? 116 : g.entities % 3 == 1 ? 110 : 100;
+    int reals_count = type == 116 ? 3 : type == 110 ? 6 : 7;
+    std::string fields = std::to_string(type);
+    for (int i = 0; i < reals_count; ++i) fields += "," + reals.next();
+    fields += ";";
     int first = p_line + 1;
     while (!fields.empty()) {
       size_t cut = fields.size() <= 64 ? fields.size() : fields.rfind(',', 63) + 1;
@@ -150,24 +152,14 @@ template <class Fields> Generated generate(std::size_t at_least, Fields fields_o
   g.text += record("1.,15H20240101.000000,1.E-06,1000.,4HNONE,4HNONE,11,0;", 'G', 2);
   g.text += d;
   g.text += p;
-  std::string counts = "S";
-  counts.append(number(1, 7)).append("G").append(number(2, 7)).append("D");
-  counts.append(number(d_line, 7)).append("P").append(number(p_line, 7));
-  g.text += record(counts, 'T', 1);
+  g.text += record("S" + number(1, 7) + "G" + number(2, 7) + "D" + number(d_line, 7) + "P" +
+                       number(p_line, 7),
+                   'T', 1);
   return g;
 }
 
-// Points, lines and arcs in turn.
 Generated const& file_text() {
-  static Generated const g = generate(50u << 20, [](int index, Reals& reals, int& type) {
-    type = index % 3 == 0 ? 116 : index % 3 == 1 ? 110 : 100;
-    int reals_count = type == 116 ? 3 : type == 110 ? 6 : 7;
-    std::string fields = std::to_string(type);
-    // Appended, not joined with +: a literal + a string trips a false -Wrestrict of g++ 12
-    // at -O2.
-    for (int i = 0; i < reals_count; ++i) fields.append(",").append(reals.next());
-    return fields + ";";
-  });
+  static Generated const g = generate(50u << 20);
   return g;
 }
 
@@ -213,8 +205,8 @@ igsFile* read_file(std::string const& text) {
   return nullptr;
 }
 
-// Reads the generated file in each iteration, beside the floor over the same text.
-void read_benchmark(benchmark::State& state, Generated const& g) {
+// Reads the generated file in each iteration beside the floor, and gives the counters.
+void measure_read(benchmark::State& state, Generated const& g) {
   // One untimed read with the heap counted: its peak, and the pages the heap grows into
   // touched once before the timed reads.
   std::size_t before = heap::live;
@@ -255,44 +247,148 @@ void read_benchmark(benchmark::State& state, Generated const& g) {
 }
 
 void BM_ReadFile(benchmark::State& state) {
-  read_benchmark(state, file_text());
+  measure_read(state, file_text());
 }
 BENCHMARK(BM_ReadFile)->Unit(benchmark::kMillisecond)->Iterations(3);
 
-// --- B-spline curves -----------------------------------------------------------------------
-// A file of rational B-spline curves as CAD systems write them: cubic, 4 to 19 control points,
-// clamped knots, now polynomial (weights of 1.) and now rational, reals of about a dozen
-// digits. Reals make nearly all of such a file.
-Generated const& bspline_text() {
-  static Generated const g = generate(50u << 20, [](int index, Reals& reals, int& type) {
-    type = 126;
+// ---- Boundary representation: solids of six faces over their loops, edge and vertex lists.
+// Each solid is a box: a shell of six faces, one loop of four edges each, one edge list of
+// twelve edges on their lines, one vertex list of eight corners. No surface class stands yet,
+// so the faces name none.
+
+// The records of a file, each given as its type, form and parameters, numbered in order.
+struct RecordText {
+  std::string d, p;
+  int entities = 0;
+  int p_line = 0;
+  static std::string line(std::string data, char letter, int number_) {
+    data.resize(72, ' ');
+    return data + letter + number(number_, 7) + "\n";
+  }
+  // The DE number of the record.
+  int add(int type, int form, std::string fields) {
+    int de = 2 * entities + 1;
+    int first = p_line + 1;
+    fields = std::to_string(type) + fields + ";";
+    while (!fields.empty()) {
+      size_t cut = fields.size() <= 64 ? fields.size() : fields.rfind(',', 63) + 1;
+      std::string data = fields.substr(0, cut);
+      fields.erase(0, cut);
+      data.resize(64, ' ');
+      p += line(data + " " + number(de, 7), 'P', ++p_line);
+    }
+    d += line(number(type, 8) + number(first, 8) + "       0       0       0       0       0" +
+                  "       000000000",
+              'D', de);
+    d += line(number(type, 8) + "       0       0" + number(p_line - first + 1, 8) +
+                  number(form, 8),
+              'D', de + 1);
+    ++entities;
+    return de;
+  }
+  Generated text() const {
+    Generated g;
+    g.entities = entities;
+    g.text = line("Generated for the reading benchmark.", 'S', 1);
+    g.text +=
+        line("1H,,1H;,4HBNCH,8Hbench.igs,3HGEN,3H1.0,32,38,6,308,15,4HBNCH,1.,2,2HMM,1,", 'G', 1);
+    g.text += line("1.,15H20240101.000000,1.E-06,1000.,4HNONE,4HNONE,11,0;", 'G', 2);
+    g.text += d + p;
+    g.text += line("S" + number(1, 7) + "G" + number(2, 7) + "D" + number(2 * entities, 7) + "P" +
+                       number(p_line, 7),
+                   'T', 1);
+    return g;
+  }
+};
+
+Generated generate_solids(std::size_t at_least) {
+  RecordText file;
+  Reals reals;
+  // The corners of a box, the edges between them and the faces over four edges each.
+  static int const ends[12][2] = {{0, 1}, {1, 2}, {2, 3}, {3, 0}, {4, 5}, {5, 6},
+                                  {6, 7}, {7, 4}, {0, 4}, {1, 5}, {2, 6}, {3, 7}};
+  static int const faces[6][4] = {{0, 1, 2, 3}, {4, 5, 6, 7}, {0, 9, 4, 8},
+                                  {1, 10, 5, 9}, {2, 11, 6, 10}, {3, 8, 7, 11}};
+  auto de_of = [&](int k) { return 2 * (file.entities + k) + 1; };
+  while (file.d.size() + file.p.size() < at_least) {
+    // In file order: solid, shell, six faces, six loops, edge list, vertex list, twelve lines.
+    int shell = de_of(1), face = de_of(2), loop = de_of(8), edges = de_of(14);
+    int vertices = de_of(15), line = de_of(16);
+    file.add(186, 0, "," + std::to_string(shell) + ",1,0");
+    std::string list = "," + std::to_string(6);
+    for (int f = 0; f < 6; ++f) list += "," + std::to_string(face + 2 * f) + ",1";
+    file.add(514, 1, list);
+    for (int f = 0; f < 6; ++f) file.add(510, 1, ",0,1,1," + std::to_string(loop + 2 * f));
+    for (auto const& f : faces) {
+      std::string oriented = ",4";
+      for (int e : f)
+        oriented += ",0," + std::to_string(edges) + "," + std::to_string(e + 1) + ",1,1,0," +
+                    std::to_string(line + 2 * e);
+      file.add(508, 1, oriented);
+    }
+    std::string edge_list = ",12";
+    for (int e = 0; e < 12; ++e)
+      edge_list += "," + std::to_string(line + 2 * e) + "," + std::to_string(vertices) + "," +
+                   std::to_string(ends[e][0] + 1) + "," + std::to_string(vertices) + "," +
+                   std::to_string(ends[e][1] + 1);
+    file.add(504, 1, edge_list);
+    std::string corners = ",8";
+    for (int v = 0; v < 24; ++v) corners += "," + reals.next();
+    file.add(502, 1, corners);
+    for (int e = 0; e < 12; ++e) {
+      std::string points;
+      for (int c = 0; c < 6; ++c) points += "," + reals.next();
+      file.add(110, 0, points);
+    }
+  }
+  return file.text();
+}
+
+void BM_ReadSolids(benchmark::State& state) {
+  static Generated const g = generate_solids(50u << 20);
+  measure_read(state, g);
+}
+BENCHMARK(BM_ReadSolids)->Unit(benchmark::kMillisecond)->Iterations(3);
+// ---- End of the boundary representation.
+
+// ---- B-spline curves: rational B-spline curves as CAD systems write them, cubic, of 4 to 19
+// control points over clamped knots, now polynomial (weights of 1.) and now rational, with
+// reals of about a dozen digits, which make nearly all of such a file.
+Generated generate_bspline_curves(std::size_t at_least) {
+  RecordText file;
+  Reals reals;
+  // Strings are appended, not joined with +: a literal + a string trips a false -Wrestrict of
+  // g++ 12 at -O2.
+  auto real = [](double value) {
+    char text[32];
+    std::snprintf(text, sizeof text, ",%.12g", value);
+    return std::string(text);
+  };
+  for (int index = 0; file.d.size() + file.p.size() < at_least; ++index) {
     int const degree = 3;
     int const points = 4 + index % 16;
     bool const rational = index % 4 == 3;
-    std::string fields = "126," + std::to_string(points - 1) + "," + std::to_string(degree) +
-                         ",0,0," + (rational ? "0" : "1") + ",0";
+    std::string fields(",");
+    fields.append(std::to_string(points - 1)).append(",").append(std::to_string(degree));
+    fields.append(rational ? ",0,0,0,0" : ",0,0,1,0");
     int const spans = points - degree;
-    for (int i = 0; i <= degree; ++i) fields += ",0.";
-    for (int i = 1; i < spans; ++i) {
-      char knot[32];
-      std::snprintf(knot, sizeof knot, ",%.12g", static_cast<double>(i) / spans);
-      fields += knot;
-    }
-    for (int i = 0; i <= degree; ++i) fields += ",1.";
-    for (int i = 0; i < points; ++i) {
-      char weight[32];
-      std::snprintf(weight, sizeof weight, ",%.12g", rational ? 0.5 + (i % 3) * 0.25 : 1.0);
-      fields += rational && i % 3 ? weight : ",1.";
-    }
+    for (int i = 0; i <= degree; ++i) fields.append(",0.");
+    for (int i = 1; i < spans; ++i) fields.append(real(static_cast<double>(i) / spans));
+    for (int i = 0; i <= degree; ++i) fields.append(",1.");
+    for (int i = 0; i < points; ++i)
+      fields.append(rational && i % 3 ? real(0.5 + i % 3 * 0.25) : ",1.");
     for (int i = 0; i < 3 * points; ++i) fields.append(",").append(reals.next());
-    return fields + ",0.,1.,0.,0.,0.;";
-  });
-  return g;
+    fields.append(",0.,1.,0.,0.,0.");
+    file.add(126, 0, fields);
+  }
+  return file.text();
 }
 
 void BM_ReadBsplineCurves(benchmark::State& state) {
-  read_benchmark(state, bspline_text());
+  static Generated const g = generate_bspline_curves(50u << 20);
+  measure_read(state, g);
 }
 BENCHMARK(BM_ReadBsplineCurves)->Unit(benchmark::kMillisecond)->Iterations(3);
+// ---- End of the B-spline curves.
 
 } // namespace
