@@ -74,8 +74,9 @@ void expect_fixture(std::filesystem::path const& path, std::string const& text) 
     std::ofstream(path, std::ios::binary) << text;
     return;
   }
-  EXPECT_EQ(igs_test::read_file(path), text) << path << " differs; IGS_UPDATE_FIXTURES=1 "
-                                                        "writes it anew";
+  EXPECT_EQ(igs_test::read_file(path), text) << path
+                                             << " differs; IGS_UPDATE_FIXTURES=1 "
+                                                "writes it anew";
 }
 
 std::string faults_text(std::vector<std::string> const& faults) {
@@ -102,7 +103,7 @@ std::string registered_class(int type, int form) {
 
 std::string file_text(Records const& records) {
   igs_read_test::FileText text;
-  for (Record const& r : records) text.add(r.type, r.form, cut(r.data));
+  for (Record const& r : records) text.add(r.type, r.form, cut(r.data), r.matrix);
   return text.text();
 }
 

@@ -71,9 +71,8 @@ struct CorpusRow {
 };
 
 template <class T, class F> CorpusRow row(F values) {
-  return {&T::type(), [values](igsObject const& e, Values& v) {
-            values(static_cast<T const&>(e), v);
-          }};
+  return {&T::type(),
+          [values](igsObject const& e, Values& v) { values(static_cast<T const&>(e), v); }};
 }
 
 // Every row of every family, gathered as the corpus test binary starts.
@@ -98,11 +97,12 @@ inline CorpusRow const* corpus_row(kvuTypeInfo const& type) {
 }
 
 // One entity of a test file: type, form and the whole parameter record, which the file cuts
-// into P lines behind its delimiters.
+// into P lines behind its delimiters, and the DE number of its transformation matrix.
 struct Record {
   int type;
   int form;
   std::string data;
+  int matrix = 0;
 };
 using Records = std::vector<Record>;
 
@@ -124,9 +124,9 @@ void expect_family(Family const& family);
 struct Damage {
   char const* what;
   Records records;
-  std::vector<std::string> raised;  // what check finds
-  std::vector<std::string> left;    // what check finds after clean(0)
-  std::string message = {};         // what the repairs of clean(0) print, exactly
+  std::vector<std::string> raised; // what check finds
+  std::vector<std::string> left;   // what check finds after clean(0)
+  std::string message = {};        // what the repairs of clean(0) print, exactly
 };
 
 void expect_damage(Damage const& damage);
