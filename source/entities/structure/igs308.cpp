@@ -6,6 +6,7 @@
 #include "errors/igsErrorLog.h"
 
 #include <algorithm>
+#include <climits>
 
 IGS_ENTITY_DEFINE(igs308, igsCompound, 308, 0, IGS_DE_ALL)
 
@@ -116,24 +117,28 @@ void igs308::check_pd() const {
   if (depth_fault) raise_error<igs308InvalidDepth>();
 }
 
+// Depth first, without recursion, each definition's height found once: the longest chain
+// below it, a placement that leads back onto the path (a loop) counting one level.
 int igs308::placement_depth(intcoSet const& passed_over) const {
   struct Level {
     igs308 const* definition;
-    int next;  // the position of the next entity to look at
-    int depth; // of this definition below the first
-    int best;  // the deepest level reached through it so far
+    int next; // the position of the next entity to look at
+    int best; // the longest chain below it found so far
   };
   coDynArr<Level> path;
-  intcoSet seen;
-  seen.add(de_number());
-  if (!path.append({this, 0, 0, 0})) return 0;
+  intcoSet on_path;
+  intintcoTable heights;
+  if (!path.append({this, 0, 0})) return 0;
+  on_path.add(de_number());
   for (;;) {
     Level& level = path.last();
     if (level.next >= level.definition->m_entities.size()) {
-      int best = level.best;
+      int height = level.best;
+      on_path.remove(level.definition->de_number());
+      heights[level.definition->de_number()] = height;
       path.remove_last();
-      if (path.empty()) return best;
-      path.last().best = std::max(path.last().best, best);
+      if (path.empty()) return height;
+      path.last().best = std::max(path.last().best, height + 1);
       continue;
     }
     igsObjectPtr const& entity = level.definition->get_entity(level.next++);
@@ -141,12 +146,16 @@ int igs308::placement_depth(intcoSet const& passed_over) const {
     if (path.size() == 1 && passed_over.member(entity->de_number())) continue;
     igsObjectPtr subfigure = static_cast<igs408 const&>(*entity).get_subfigure();
     if (!subfigure) continue;
-    // A subfigure that is no definition, or one met before, counts one level and ends there.
-    int below = level.depth + 1;
-    level.best = std::max(level.best, below);
-    if (!subfigure->typeof(igs308::type()) || seen.member(subfigure->de_number())) continue;
-    seen.add(subfigure->de_number());
-    path.append({static_cast<igs308 const*>(subfigure.operator->()), 0, below, below});
+    int de = subfigure->de_number();
+    int height = 0;
+    if (int const* known = heights.read(de))
+      height = *known;
+    else if (subfigure->typeof(igs308::type())&& !on_path.member(de) &&
+             path.append({static_cast<igs308 const*>(subfigure.operator->()), 0, 0})) {
+      on_path.add(de);
+      continue;
+    }
+    level.best = std::max(level.best, height + 1);
   }
 }
 
@@ -169,8 +178,10 @@ int igs308SelfReferencingSubfigure::fix() {
   return 1;
 }
 
-// The instances that the definition's own loop repairs are to drop do not count, whichever
-// repair comes first.
+// The depth becomes the longest chain below the definition, and at least one more than the
+// depth each definition it places declares, so that the definition passes its check whatever
+// the others declare. The instances that the definition's own loop repairs are to drop do not
+// count, whichever repair comes first.
 int igs308InvalidDepth::fix() {
   igs308* definition = igs_error_entity<igs308>(key());
   if (!definition) return 0;
@@ -180,6 +191,13 @@ int igs308InvalidDepth::fix() {
     if (auto* error = static_cast<igsObjectError*>(it());
         error->key() == key() && error->isa(igs308SelfReferencingSubfigure::type()))
       looping.add(error->obj());
-  definition->set_depth(definition->placement_depth(looping));
+  int depth = definition->placement_depth(looping);
+  for (int i = 0; i < definition->number_of_entities(); ++i) {
+    igsObjectPtr const& entity = definition->get_entity(i);
+    if (!entity || !entity->typeof(igs408::type()) || looping.member(entity->de_number())) continue;
+    igs308 const* placed = static_cast<igs408 const&>(*entity).placed_definition();
+    if (placed && placed->depth() < INT_MAX) depth = std::max(depth, placed->depth() + 1);
+  }
+  definition->set_depth(depth);
   return 1;
 }

@@ -27,10 +27,10 @@ class igs308 : public igsCompound {
   // to the first that closes a loop: 1 then, else 0.
   int self_referencing();
 
-  // The longest chain of placements below this definition, counting each definition once:
-  // 0 without instances, 1 with instances of definitions without instances, and so on. A
-  // definition met a second time (through a loop, or shared) counts one level and ends there.
-  // The instances of this definition whose DE numbers are `passed_over` do not count.
+  // The longest chain of placements below this definition: 0 without instances, 1 with
+  // instances of definitions without instances, and so on. A placement that leads back to a
+  // definition of the chain (a loop) counts one level and ends there. The instances of this
+  // definition whose DE numbers are `passed_over` do not count.
   int placement_depth(intcoSet const& passed_over = {}) const;
 
  private:
