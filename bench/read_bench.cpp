@@ -20,6 +20,7 @@
 #include <new>
 #include <sstream>
 #include <string>
+#include <vector>
 
 // Live and peak heap bytes of the whole program, while counting is on. The timed reads run
 // with it off, so that they do not pay for the count.
@@ -205,8 +206,8 @@ igsFile* read_file(std::string const& text) {
   return nullptr;
 }
 
-void BM_ReadFile(benchmark::State& state) {
-  Generated const& g = file_text();
+// Reads the generated file and sets the counters of the benchmark.
+void measure_read(benchmark::State& state, Generated const& g) {
   // One untimed read with the heap counted: its peak, and the pages the heap grows into
   // touched once before the timed reads.
   std::size_t before = heap::live;
@@ -245,6 +246,93 @@ void BM_ReadFile(benchmark::State& state) {
   state.counters["file_MB"] = static_cast<double>(g.text.size()) / 1e6;
   state.counters["entities"] = entities;
 }
+
+void BM_ReadFile(benchmark::State& state) {
+  measure_read(state, file_text());
+}
 BENCHMARK(BM_ReadFile)->Unit(benchmark::kMillisecond)->Iterations(3);
+
+// ---- Structure: transformation matrices, directions, groups, views, drawings and subfigures.
+
+// A file of more than 20 MB in units of 17 entities: a matrix, a direction, eight points placed
+// by the matrix, an unordered group of the points, a planar group of four of them with the
+// matrix, a view, a drawing of the view and four points, a subfigure definition of the points
+// and an instance of it, and an ordered group of the two groups.
+Generated generate_structure(std::size_t at_least) {
+  Generated g;
+  std::string d, p;
+  Reals reals;
+  int p_line = 0;
+  auto record = [](std::string data, char letter, int line) {
+    data.resize(72, ' ');
+    return data + letter + number(line, 7) + "\n";
+  };
+  // Adds an entity of the fields (behind the type) and gives its DE number.
+  auto add = [&](int type, int form, std::string const& fields, int matrix) {
+    int de = 2 * g.entities++ + 1;
+    std::string rest = std::to_string(type) + fields + ";";
+    int first = p_line + 1;
+    while (!rest.empty()) {
+      size_t cut = rest.size() <= 64 ? rest.size() : rest.rfind(',', 63) + 1;
+      std::string data = rest.substr(0, cut);
+      rest.erase(0, cut);
+      data.resize(64, ' ');
+      p += record(data + " " + number(de, 7), 'P', ++p_line);
+    }
+    d += record(number(type, 8) + number(first, 8) + "       0       0       0       0" +
+                    number(matrix, 8) + "       000000000",
+                'D', static_cast<int>(d.size() / 81) + 1);
+    d += record(number(type, 8) + "       0       0" + number(p_line - first + 1, 8) +
+                    number(form, 8),
+                'D', static_cast<int>(d.size() / 81) + 1);
+    return de;
+  };
+  auto list = [](std::vector<int> const& members) {
+    std::string text = "," + std::to_string(members.size());
+    for (int m : members) text += "," + std::to_string(m);
+    return text;
+  };
+  for (int view_number = 1; d.size() + p.size() < at_least; ++view_number) {
+    int matrix = add(124, 0,
+                     ",0.,-1.,0.," + reals.next() + ",1.,0.,0.," + reals.next() + ",0.,0.,1.," +
+                         reals.next(),
+                     0);
+    add(123, 0, ",0.6,0.,0.8", 0);
+    std::vector<int> points;
+    for (int i = 0; i < 8; ++i)
+      points.push_back(
+          add(116, 0, "," + reals.next() + "," + reals.next() + "," + reals.next() + ",0", matrix));
+    int group = add(402, 7, list(points), 0);
+    int planar = add(402, 16,
+                     ",1,4," + std::to_string(matrix) +
+                         list({points[0], points[1], points[2], points[3]}).substr(2),
+                     0);
+    int view = add(410, 0, "," + std::to_string(view_number) + ",1.,0,0,0,0,0,0", 0);
+    add(404, 0,
+        ",1," + std::to_string(view) + ",0.,0." +
+            list({points[4], points[5], points[6], points[7]}),
+        0);
+    int definition = add(308, 0, ",0,4HPART" + list(points), 0);
+    add(408, 0,
+        "," + std::to_string(definition) + "," + reals.next() + "," + reals.next() + ",0.,1.", 0);
+    add(402, 15, list({group, planar}), 0);
+  }
+  g.text = record("Generated for the reading benchmark.", 'S', 1);
+  g.text +=
+      record("1H,,1H;,4HBNCH,8Hbench.igs,3HGEN,3H1.0,32,38,6,308,15,4HBNCH,1.,2,2HMM,1,", 'G', 1);
+  g.text += record("1.,15H20240101.000000,1.E-06,1000.,4HNONE,4HNONE,11,0;", 'G', 2);
+  g.text += d;
+  g.text += p;
+  g.text += record("S" + number(1, 7) + "G" + number(2, 7) + "D" +
+                       number(static_cast<int>(d.size() / 81), 7) + "P" + number(p_line, 7),
+                   'T', 1);
+  return g;
+}
+
+void BM_ReadStructureFile(benchmark::State& state) {
+  static Generated const g = generate_structure(20u << 20);
+  measure_read(state, g);
+}
+BENCHMARK(BM_ReadStructureFile)->Unit(benchmark::kMillisecond)->Iterations(3);
 
 } // namespace
