@@ -129,6 +129,10 @@ void expect_family(Family const& family) {
   EXPECT_TRUE(faults.empty()) << faults_text(faults);
 }
 
+std::string written_record(igsFile& file, int de_number) {
+  return igs_test::written_record(igs_test::written_text(file), de_number);
+}
+
 void expect_damage(Damage const& damage) {
   SCOPED_TRACE(damage.what);
   std::string const text = file_text(damage.records);
@@ -140,6 +144,9 @@ void expect_damage(Damage const& damage) {
     f.file->clean(0);
     EXPECT_EQ(f.messages.text(), damage.message);
     EXPECT_EQ(f.checked(), damage.left);
+    if (!damage.repaired.empty()) {
+      EXPECT_EQ(written_record(*f.file, 1), damage.repaired);
+    }
     auto faults = igs_test::round_trip_faults(*f.file, "clean(0)");
     EXPECT_TRUE(faults.empty()) << faults_text(faults);
   }

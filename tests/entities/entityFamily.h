@@ -127,7 +127,12 @@ struct Damage {
   std::vector<std::string> raised; // what check finds
   std::vector<std::string> left;   // what check finds after clean(0)
   std::string message = {};        // what the repairs of clean(0) print, exactly
+  std::string repaired = {};       // if given: the record of DE 1 as written after clean(0)
 };
+
+// The parameter record of the entity as the file writes it, from its type to the record
+// delimiter, cut from the P lines of the written text.
+std::string written_record(igsFile& file, int de_number);
 
 void expect_damage(Damage const& damage);
 
