@@ -55,9 +55,11 @@ template <class Member> class igsMemberList {
   int original(int current) const { return m_index.original(current); }
   void set_index(int original, int current) { m_index.set(original, current); }
 
-  // Reads `count` members with `read_one(in, member)` while the record lasts: a count beyond
-  // the data (often a damaged one) costs neither time nor memory, and the list holds what
-  // there was. A negative count reads nothing. 0 if the members could not be stored.
+  // Reads `count` members with `read_one(in, member)` while the record lasts. A record that
+  // ends before its count leaves the members it lacks null, which the check reports, as far
+  // as such a count is believable (igs_max_initial_reserve); a wild count (often a damaged
+  // one) costs neither time nor memory, and the list holds what there was. A negative count
+  // reads nothing. 0 if the members could not be stored.
   template <class ReadOne> int read(igsInStream& in, int count, ReadOne const& read_one) {
     m_members.clear();
     m_count = count;
@@ -67,6 +69,8 @@ template <class Member> class igsMemberList {
       read_one(in, member);
       if (!m_members.append(member)) return 0;
     }
+    if (count > m_members.size() && count <= igs_max_initial_reserve && !m_members.expand(count))
+      return 0;
     if (count > 0) m_count = m_members.size();
     set_index_list();
     return 1;
