@@ -24,29 +24,30 @@ namespace {
 
 // A point at DE 7 and a line at DE 9 serve as members; the line is placed by the mirror
 // matrix at DE 3, so that a Directory Entry's matrix pointer reaches a matrix.
-Family const structure = {"structure",
-                          "structure",
-                          {
-                              {124, 0, "124,1.,0.,0.,0.,0.,1.,0.,0.,0.,0.,1.,0.;"},
-                              {124, 1, "124,0.,1.,0.,5.,1.,0.,0.,6.,0.,0.,1.,-7.5;"},
-                              {123, 0, "123,0.,0.6,0.8;"},
-                              {116, 0, "116,1.,2.,3.,0;"},
-                              {110, 0, "110,0.,0.,0.,1.,1.,1.;", 3},
-                              {402, 1, "402,2,7,9;"},
-                              {402, 7, "402,1,7;"},
-                              {402, 14, "402,2,9,11;"},
-                              {402, 15, "402,1,7;"},
-                              {402, 16, "402,1,2,1,7,9;"},
-                              {410, 0, "410,1,1.,0,0,0,0,0,0;"},
-                              {410, 0, "410,2,0.5,0,0,0,0,0,0;"},
-                              {402, 3, "402,2,2,21,23,7,9;"},
-                              {404, 0, "404,2,21,0.,0.,23,10.,5.,1,9;"},
-                              {404, 1, "404,1,21,1.,2.,0.5,0;"},
-                              {308, 0, "308,0,4HLEAF,2,7,9;"},
-                              {408, 0, "408,31,1.,2.,3.,2.;"},
-                              {308, 0, "308,1,3HTOP,1,33;"},
-                              {408, 0, "408,35,0.,0.,0.,1.;"},
-                          }};
+Family const structure = {
+    "structure",
+    "structure",
+    {
+        {124, 0, "124,1.,0.,0.,0.,0.,1.,0.,0.,0.,0.,1.,0.;"},
+        {124, 1, "124,0.,1.,0.,5.,1.,0.,0.,6.,0.,0.,1.,-7.5;"},
+        {123, 0, "123,0.,0.6,0.8;"},
+        {116, 0, "116,1.,2.,3.,0;"},
+        {110, 0, "110,0.,0.,0.,1.,1.,1.;", 3},
+        {402, 1, "402,2,7,9;"},
+        {402, 7, "402,1,7;"},
+        {402, 14, "402,2,9,11;"},
+        {402, 15, "402,1,7;"},
+        {402, 16, "402,1,2,1,7,9;"},
+        {410, 0, "410,1,1.,0,0,0,0,0,0;"},
+        {410, 0, "410,2,0.5,0,0,0,0,0,0;"},
+        {402, 3, "402,2,2,21,23,7,9;"},
+        {404, 0, "404,2,21,0.,0.,23,10.,5.,1,9;"},
+        {404, 1, "404,1,21,1.,2.,0.5,0;"},
+        {308, 0, "308,0,4HLEAF,2,7,9;"},
+        {408, 0, "408,31,1.,2.,3.,2.;"},
+        {308, 0, "308,1,3HTOP,1,33;"},
+        {408, 0, "408,35,0.,0.,0.;"}, // a blank scale reads as 0, which passes
+    }};
 
 TEST(Structure, TheFamilyFile) {
   expect_family(structure);
@@ -305,6 +306,37 @@ TEST(Structure, TheDepthBelowAHundredThousandNestedDefinitionsIsFoundWithoutRecu
   });
 }
 
+// Each definition hands what leads to it down to the definitions it places; the one that
+// then places a definition leading to it closes a loop.
+TEST(Structure, DefinitionsHandDownTheirAncestorsUntilALoopCloses) {
+  ReadRecords f({{308, 0, "308,3,1HA,1,7;"},
+                 {308, 0, "308,2,1HB,2,9,9;"},
+                 {308, 0, "308,1,1HC,1,11;"},
+                 {408, 0, "408,3,0.,0.,0.,1.;"},
+                 {408, 0, "408,5,0.,0.,0.,1.;"},
+                 {408, 0, "408,1,0.,0.,0.,1.;"}});
+  EXPECT_EQ(f.at<igs308>(1).self_referencing(), 0);
+  EXPECT_EQ(f.at<igs308>(3).self_referencing(), 0);
+  EXPECT_EQ(f.at<igs308>(5).self_referencing(), 1);
+}
+
+// A repair whose key names no entity of its class changes nothing and stays.
+TEST(Structure, ARepairWithoutItsEntityStays) {
+  auto file = std::make_unique<igsFile>();
+#define IGS_ZERO_(pair) IGS_ZERO_I pair
+#define IGS_ZERO_I(type, name)                                                                     \
+  , type {}
+#define IGS_ERROR(Name, Base, Behaviour, ...)                                                      \
+  {                                                                                                \
+    Name error{IGS_ERROR_LIST(IGS_ZERO_, __VA_ARGS__)};                                            \
+    error.set_key(7);                                                                              \
+    EXPECT_EQ(error.fix(), 0) << #Name;                                                            \
+  }
+#include "entities/structure/igsStructureErrors.def"
+#undef IGS_ZERO_
+#undef IGS_ZERO_I
+}
+
 // A group of three members whose middle one is missing keeps the others, and every error
 // about a member names it by its position as read.
 TEST(Structure, ABadMemberGoesOnceTheLastErrorAboutTheMembersIsRepaired) {
@@ -430,6 +462,12 @@ TEST(Structure, MatrixRepairsMakeRotationsRigidWhenAskedTo) {
       }
     }
   resources.reset(kvnOptRigidTransforms);
+  // Without them, columns of a usable length are accepted as they stand, whatever the
+  // translation.
+  ReadRecords f({{124, 0, "124,2.,0.,0.,0.,0.,2.,0.,0.,0.,0.,2.,0.;"}});
+  f.file->check();
+  ASSERT_EQ(ReadRecords::num_errors(), 2);
+  EXPECT_EQ(ReadRecords::errors()[1]->fix(), 1);
 }
 
 TEST(Structure, AnInstanceScalesWhatItPlacesAfterMovingIt) {
