@@ -206,7 +206,7 @@ igsFile* read_file(std::string const& text) {
   return nullptr;
 }
 
-// Reads the generated file and sets the counters of the benchmark.
+// Reads the generated file in each iteration beside the floor, and gives the counters.
 void measure_read(benchmark::State& state, Generated const& g) {
   // One untimed read with the heap counted: its peak, and the pages the heap grows into
   // touched once before the timed reads.
@@ -252,81 +252,142 @@ void BM_ReadFile(benchmark::State& state) {
 }
 BENCHMARK(BM_ReadFile)->Unit(benchmark::kMillisecond)->Iterations(3);
 
-// ---- Structure: transformation matrices, directions, groups, views, drawings and subfigures.
+// ---- Boundary representation: solids of six faces over their loops, edge and vertex lists.
+// Each solid is a box: a shell of six faces, one loop of four edges each, one edge list of
+// twelve edges on their lines, one vertex list of eight corners. No surface class stands yet,
+// so the faces name none.
 
-// A file of more than 20 MB in units of 17 entities: a matrix, a direction, eight points placed
-// by the matrix, an unordered group of the points, a planar group of four of them with the
-// matrix, a view, a drawing of the view and four points, a subfigure definition of the points
-// and an instance of it, and an ordered group of the two groups.
-Generated generate_structure(std::size_t at_least) {
-  Generated g;
+// The records of a file, each given as its type, form and parameters, numbered in order.
+struct RecordText {
   std::string d, p;
-  Reals reals;
+  int entities = 0;
   int p_line = 0;
-  auto record = [](std::string data, char letter, int line) {
+  static std::string line(std::string data, char letter, int number_) {
     data.resize(72, ' ');
-    return data + letter + number(line, 7) + "\n";
-  };
-  // Adds an entity of the fields (behind the type) and gives its DE number.
-  auto add = [&](int type, int form, std::string const& fields, int matrix) {
-    int de = 2 * g.entities++ + 1;
-    std::string rest = std::to_string(type) + fields + ";";
+    return data + letter + number(number_, 7) + "\n";
+  }
+  // The DE number of the record; `matrix` is the DE number of its transformation matrix.
+  int add(int type, int form, std::string fields, int matrix = 0) {
+    int de = 2 * entities + 1;
     int first = p_line + 1;
-    while (!rest.empty()) {
-      size_t cut = rest.size() <= 64 ? rest.size() : rest.rfind(',', 63) + 1;
-      std::string data = rest.substr(0, cut);
-      rest.erase(0, cut);
+    fields = std::to_string(type) + fields + ";";
+    while (!fields.empty()) {
+      size_t cut = fields.size() <= 64 ? fields.size() : fields.rfind(',', 63) + 1;
+      std::string data = fields.substr(0, cut);
+      fields.erase(0, cut);
       data.resize(64, ' ');
-      p += record(data + " " + number(de, 7), 'P', ++p_line);
+      p += line(data + " " + number(de, 7), 'P', ++p_line);
     }
-    d += record(number(type, 8) + number(first, 8) + "       0       0       0       0" +
-                    number(matrix, 8) + "       000000000",
-                'D', static_cast<int>(d.size() / 81) + 1);
-    d += record(number(type, 8) + "       0       0" + number(p_line - first + 1, 8) +
-                    number(form, 8),
-                'D', static_cast<int>(d.size() / 81) + 1);
+    d += line(number(type, 8) + number(first, 8) + "       0       0       0       0" +
+                  number(matrix, 8) + "       000000000",
+              'D', de);
+    d +=
+        line(number(type, 8) + "       0       0" + number(p_line - first + 1, 8) + number(form, 8),
+             'D', de + 1);
+    ++entities;
     return de;
-  };
+  }
+  Generated text() const {
+    Generated g;
+    g.entities = entities;
+    g.text = line("Generated for the reading benchmark.", 'S', 1);
+    g.text +=
+        line("1H,,1H;,4HBNCH,8Hbench.igs,3HGEN,3H1.0,32,38,6,308,15,4HBNCH,1.,2,2HMM,1,", 'G', 1);
+    g.text += line("1.,15H20240101.000000,1.E-06,1000.,4HNONE,4HNONE,11,0;", 'G', 2);
+    g.text += d + p;
+    g.text += line("S" + number(1, 7) + "G" + number(2, 7) + "D" + number(2 * entities, 7) + "P" +
+                       number(p_line, 7),
+                   'T', 1);
+    return g;
+  }
+};
+
+Generated generate_solids(std::size_t at_least) {
+  RecordText file;
+  Reals reals;
+  // The corners of a box, the edges between them and the faces over four edges each.
+  static int const ends[12][2] = {{0, 1}, {1, 2}, {2, 3}, {3, 0}, {4, 5}, {5, 6},
+                                  {6, 7}, {7, 4}, {0, 4}, {1, 5}, {2, 6}, {3, 7}};
+  static int const faces[6][4] = {{0, 1, 2, 3},  {4, 5, 6, 7},   {0, 9, 4, 8},
+                                  {1, 10, 5, 9}, {2, 11, 6, 10}, {3, 8, 7, 11}};
+  auto de_of = [&](int k) { return 2 * (file.entities + k) + 1; };
+  while (file.d.size() + file.p.size() < at_least) {
+    // In file order: solid, shell, six faces, six loops, edge list, vertex list, twelve lines.
+    int shell = de_of(1), face = de_of(2), loop = de_of(8), edges = de_of(14);
+    int vertices = de_of(15), line = de_of(16);
+    file.add(186, 0, "," + std::to_string(shell) + ",1,0");
+    std::string list = "," + std::to_string(6);
+    for (int f = 0; f < 6; ++f) list += "," + std::to_string(face + 2 * f) + ",1";
+    file.add(514, 1, list);
+    for (int f = 0; f < 6; ++f) file.add(510, 1, ",0,1,1," + std::to_string(loop + 2 * f));
+    for (auto const& f : faces) {
+      std::string oriented = ",4";
+      for (int e : f)
+        oriented += ",0," + std::to_string(edges) + "," + std::to_string(e + 1) + ",1,1,0," +
+                    std::to_string(line + 2 * e);
+      file.add(508, 1, oriented);
+    }
+    std::string edge_list = ",12";
+    for (int e = 0; e < 12; ++e)
+      edge_list += "," + std::to_string(line + 2 * e) + "," + std::to_string(vertices) + "," +
+                   std::to_string(ends[e][0] + 1) + "," + std::to_string(vertices) + "," +
+                   std::to_string(ends[e][1] + 1);
+    file.add(504, 1, edge_list);
+    std::string corners = ",8";
+    for (int v = 0; v < 24; ++v) corners += "," + reals.next();
+    file.add(502, 1, corners);
+    for (int e = 0; e < 12; ++e) {
+      std::string points;
+      for (int c = 0; c < 6; ++c) points += "," + reals.next();
+      file.add(110, 0, points);
+    }
+  }
+  return file.text();
+}
+
+void BM_ReadSolids(benchmark::State& state) {
+  static Generated const g = generate_solids(50u << 20);
+  measure_read(state, g);
+}
+BENCHMARK(BM_ReadSolids)->Unit(benchmark::kMillisecond)->Iterations(3);
+// ---- End of the boundary representation.
+
+// ---- Structure: transformation matrices, directions, groups, views, drawings and subfigures.
+// A file in units of 17 entities: a matrix, a direction, eight points placed by the matrix, an
+// unordered group of the points, a planar group of four of them with the matrix, a view, a
+// drawing of the view and four points, a subfigure definition of the points and an instance
+// of it, and an ordered group of the two groups.
+Generated generate_structure(std::size_t at_least) {
+  RecordText file;
+  Reals reals;
   auto list = [](std::vector<int> const& members) {
     std::string text = "," + std::to_string(members.size());
     for (int m : members) text += "," + std::to_string(m);
     return text;
   };
-  for (int view_number = 1; d.size() + p.size() < at_least; ++view_number) {
-    int matrix = add(124, 0,
-                     ",0.,-1.,0.," + reals.next() + ",1.,0.,0.," + reals.next() + ",0.,0.,1.," +
-                         reals.next(),
-                     0);
-    add(123, 0, ",0.6,0.,0.8", 0);
+  for (int view_number = 1; file.d.size() + file.p.size() < at_least; ++view_number) {
+    int matrix = file.add(124, 0,
+                          ",0.,-1.,0.," + reals.next() + ",1.,0.,0.," + reals.next() +
+                              ",0.,0.,1.," + reals.next());
+    file.add(123, 0, ",0.6,0.,0.8");
     std::vector<int> points;
     for (int i = 0; i < 8; ++i)
-      points.push_back(
-          add(116, 0, "," + reals.next() + "," + reals.next() + "," + reals.next() + ",0", matrix));
-    int group = add(402, 7, list(points), 0);
-    int planar = add(402, 16,
-                     ",1,4," + std::to_string(matrix) +
-                         list({points[0], points[1], points[2], points[3]}).substr(2),
-                     0);
-    int view = add(410, 0, "," + std::to_string(view_number) + ",1.,0,0,0,0,0,0", 0);
-    add(404, 0,
-        ",1," + std::to_string(view) + ",0.,0." +
-            list({points[4], points[5], points[6], points[7]}),
-        0);
-    int definition = add(308, 0, ",0,4HPART" + list(points), 0);
-    add(408, 0,
-        "," + std::to_string(definition) + "," + reals.next() + "," + reals.next() + ",0.,1.", 0);
-    add(402, 15, list({group, planar}), 0);
+      points.push_back(file.add(
+          116, 0, "," + reals.next() + "," + reals.next() + "," + reals.next() + ",0", matrix));
+    int group = file.add(402, 7, list(points));
+    int planar = file.add(402, 16,
+                          ",1,4," + std::to_string(matrix) +
+                              list({points[0], points[1], points[2], points[3]}).substr(2));
+    int view = file.add(410, 0, "," + std::to_string(view_number) + ",1.,0,0,0,0,0,0");
+    file.add(404, 0,
+             ",1," + std::to_string(view) + ",0.,0." +
+                 list({points[4], points[5], points[6], points[7]}));
+    int definition = file.add(308, 0, ",0,4HPART" + list(points));
+    file.add(408, 0,
+             "," + std::to_string(definition) + "," + reals.next() + "," + reals.next() + ",0.,1.");
+    file.add(402, 15, list({group, planar}));
   }
-  g.text = record("Generated for the reading benchmark.", 'S', 1);
-  g.text +=
-      record("1H,,1H;,4HBNCH,8Hbench.igs,3HGEN,3H1.0,32,38,6,308,15,4HBNCH,1.,2,2HMM,1,", 'G', 1);
-  g.text += record("1.,15H20240101.000000,1.E-06,1000.,4HNONE,4HNONE,11,0;", 'G', 2);
-  g.text += d;
-  g.text += p;
-  g.text += record("S" + number(1, 7) + "G" + number(2, 7) + "D" +
-                       number(static_cast<int>(d.size() / 81), 7) + "P" + number(p_line, 7),
-                   'T', 1);
-  return g;
+  return file.text();
 }
 
 void BM_ReadStructureFile(benchmark::State& state) {
@@ -334,5 +395,6 @@ void BM_ReadStructureFile(benchmark::State& state) {
   measure_read(state, g);
 }
 BENCHMARK(BM_ReadStructureFile)->Unit(benchmark::kMillisecond)->Iterations(3);
+// ---- End of the structure entities.
 
 } // namespace

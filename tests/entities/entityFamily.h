@@ -12,6 +12,8 @@
 //     again and taken through the round trip; clean(1) must then leave a file that checks
 //     clean.
 //
+// IGS_DAMAGE_FILES=DIR in the environment writes the file of each damage row to DIR (for an
+// independent reader to load what igs repair makes of it).
 // IGS_UPDATE_FIXTURES=1 in the environment writes the seeds and the golden prints anew
 // instead of comparing them.
 #pragma once
@@ -114,6 +116,9 @@ struct Family {
   char const* name;
   char const* folder; // under tests/entities
   Records records;
+  // What check finds in the file: nothing, unless a class of the family needs a class that
+  // is still to come (a face needs a surface).
+  std::vector<std::string> raised = {};
 };
 
 // Reads the family file and holds it to every promise above.
@@ -128,6 +133,10 @@ struct Damage {
   std::vector<std::string> left;   // what check finds after clean(0)
   std::string message = {};        // what the repairs of clean(0) print, exactly
   std::string repaired = {};       // if given: the record of DE 1 as written after clean(0)
+  // What check finds in the text that clean(1) left: nothing, unless a repair that kept an
+  // entity made it lean on one that clean(1) then deleted, or made an entity of its own that
+  // its next check finds fault with.
+  std::vector<std::string> after_delete = {};
 };
 
 // The parameter record of the entity as the file writes it, from its type to the record

@@ -61,14 +61,13 @@ template <class Member> class igsMemberList {
   // one) costs neither time nor memory, and the list holds what there was. A negative count
   // reads nothing. 0 if the members could not be stored.
   template <class ReadOne> int read(igsInStream& in, int count, ReadOne const& read_one) {
-    m_members.clear();
     m_count = count;
-    if (count > 0 && !igs_reserve(m_members, count)) return 0;
-    for (int i = 0; i < count && !in.frozen(); ++i) {
-      Member member;
-      read_one(in, member);
-      if (!m_members.append(member)) return 0;
-    }
+    if (!igs_read_members(in, count, m_members, [&] {
+          Member member;
+          read_one(in, member);
+          return member;
+        }))
+      return 0;
     if (count > m_members.size() && count <= igs_max_initial_reserve && !m_members.expand(count))
       return 0;
     if (count > 0) m_count = m_members.size();
