@@ -281,9 +281,9 @@ struct RecordText {
     d += line(number(type, 8) + number(first, 8) + "       0       0       0       0" +
                   number(matrix, 8) + "       000000000",
               'D', de);
-    d += line(number(type, 8) + "       0       0" + number(p_line - first + 1, 8) +
-                  number(form, 8),
-              'D', de + 1);
+    d +=
+        line(number(type, 8) + "       0       0" + number(p_line - first + 1, 8) + number(form, 8),
+             'D', de + 1);
     ++entities;
     return de;
   }
@@ -308,7 +308,7 @@ Generated generate_solids(std::size_t at_least) {
   // The corners of a box, the edges between them and the faces over four edges each.
   static int const ends[12][2] = {{0, 1}, {1, 2}, {2, 3}, {3, 0}, {4, 5}, {5, 6},
                                   {6, 7}, {7, 4}, {0, 4}, {1, 5}, {2, 6}, {3, 7}};
-  static int const faces[6][4] = {{0, 1, 2, 3}, {4, 5, 6, 7}, {0, 9, 4, 8},
+  static int const faces[6][4] = {{0, 1, 2, 3},  {4, 5, 6, 7},   {0, 9, 4, 8},
                                   {1, 10, 5, 9}, {2, 11, 6, 10}, {3, 8, 7, 11}};
   auto de_of = [&](int k) { return 2 * (file.entities + k) + 1; };
   while (file.d.size() + file.p.size() < at_least) {
@@ -351,46 +351,6 @@ void BM_ReadSolids(benchmark::State& state) {
 }
 BENCHMARK(BM_ReadSolids)->Unit(benchmark::kMillisecond)->Iterations(3);
 // ---- End of the boundary representation.
-
-// ---- B-spline curves: rational B-spline curves as CAD systems write them, cubic, of 4 to 19
-// control points over clamped knots, now polynomial (weights of 1.) and now rational, with
-// reals of about a dozen digits, which make nearly all of such a file.
-Generated generate_bspline_curves(std::size_t at_least) {
-  RecordText file;
-  Reals reals;
-  // Strings are appended, not joined with +: a literal + a string trips a false -Wrestrict of
-  // g++ 12 at -O2.
-  auto real = [](double value) {
-    char text[32];
-    std::snprintf(text, sizeof text, ",%.12g", value);
-    return std::string(text);
-  };
-  for (int index = 0; file.d.size() + file.p.size() < at_least; ++index) {
-    int const degree = 3;
-    int const points = 4 + index % 16;
-    bool const rational = index % 4 == 3;
-    std::string fields(",");
-    fields.append(std::to_string(points - 1)).append(",").append(std::to_string(degree));
-    fields.append(rational ? ",0,0,0,0" : ",0,0,1,0");
-    int const spans = points - degree;
-    for (int i = 0; i <= degree; ++i) fields.append(",0.");
-    for (int i = 1; i < spans; ++i) fields.append(real(static_cast<double>(i) / spans));
-    for (int i = 0; i <= degree; ++i) fields.append(",1.");
-    for (int i = 0; i < points; ++i)
-      fields.append(rational && i % 3 ? real(0.5 + i % 3 * 0.25) : ",1.");
-    for (int i = 0; i < 3 * points; ++i) fields.append(",").append(reals.next());
-    fields.append(",0.,1.,0.,0.,0.");
-    file.add(126, 0, fields);
-  }
-  return file.text();
-}
-
-void BM_ReadBsplineCurves(benchmark::State& state) {
-  static Generated const g = generate_bspline_curves(50u << 20);
-  measure_read(state, g);
-}
-BENCHMARK(BM_ReadBsplineCurves)->Unit(benchmark::kMillisecond)->Iterations(3);
-// ---- End of the B-spline curves.
 
 // ---- Structure: transformation matrices, directions, groups, views, drawings and subfigures.
 // A file in units of 17 entities: a matrix, a direction, eight points placed by the matrix, an
@@ -436,5 +396,45 @@ void BM_ReadStructureFile(benchmark::State& state) {
 }
 BENCHMARK(BM_ReadStructureFile)->Unit(benchmark::kMillisecond)->Iterations(3);
 // ---- End of the structure entities.
+
+// ---- B-spline curves: rational B-spline curves as CAD systems write them, cubic, of 4 to 19
+// control points over clamped knots, now polynomial (weights of 1.) and now rational, with
+// reals of about a dozen digits, which make nearly all of such a file.
+Generated generate_bspline_curves(std::size_t at_least) {
+  RecordText file;
+  Reals reals;
+  // Strings are appended, not joined with +: a literal + a string trips a false -Wrestrict of
+  // g++ 12 at -O2.
+  auto real = [](double value) {
+    char text[32];
+    std::snprintf(text, sizeof text, ",%.12g", value);
+    return std::string(text);
+  };
+  for (int index = 0; file.d.size() + file.p.size() < at_least; ++index) {
+    int const degree = 3;
+    int const points = 4 + index % 16;
+    bool const rational = index % 4 == 3;
+    std::string fields(",");
+    fields.append(std::to_string(points - 1)).append(",").append(std::to_string(degree));
+    fields.append(rational ? ",0,0,0,0" : ",0,0,1,0");
+    int const spans = points - degree;
+    for (int i = 0; i <= degree; ++i) fields.append(",0.");
+    for (int i = 1; i < spans; ++i) fields.append(real(static_cast<double>(i) / spans));
+    for (int i = 0; i <= degree; ++i) fields.append(",1.");
+    for (int i = 0; i < points; ++i)
+      fields.append(rational && i % 3 ? real(0.5 + i % 3 * 0.25) : ",1.");
+    for (int i = 0; i < 3 * points; ++i) fields.append(",").append(reals.next());
+    fields.append(",0.,1.,0.,0.,0.");
+    file.add(126, 0, fields);
+  }
+  return file.text();
+}
+
+void BM_ReadBsplineCurves(benchmark::State& state) {
+  static Generated const g = generate_bspline_curves(50u << 20);
+  measure_read(state, g);
+}
+BENCHMARK(BM_ReadBsplineCurves)->Unit(benchmark::kMillisecond)->Iterations(3);
+// ---- End of the B-spline curves.
 
 } // namespace

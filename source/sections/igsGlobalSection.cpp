@@ -386,27 +386,22 @@ int igsGlobalSection::read_parameter_delimiter(igsInStream& in, utOstream&) {
   return 1;
 }
 
-// A record delimiter that is also the parameter delimiter cannot tell where a record ends,
-// and no file written with the two could be read back. The section then keeps the defaults,
-// so that it stays writable; so it does when the record delimiter cannot be read behind a
-// parameter delimiter that is the default record delimiter.
 int igsGlobalSection::read_record_delimiter(igsInStream& in, utOstream&) {
-  auto keep_defaults = [&] {
+  utString text;
+  in.read_holerith(text);
+  if (!in.error_type(igsIOValuePresent)) text = ";";
+  // A record delimiter that is no single character, or is also the parameter delimiter,
+  // cannot tell where a record ends, and no file written with it could be read back. The
+  // section then keeps the defaults, so that it stays writable whatever parameter delimiter
+  // was read.
+  char delimiter = text.length() == 1 ? text[0] : '\0';
+  if (text.length() != 1 || !distinct_delimiter(delimiter, m_parameter_delimiter)) {
+    if (text.length() == 1) raise<igsGlobalSectionInvalidRecordDelim>(delimiter);
     m_parameter_delimiter = ',';
     m_record_delimiter = ';';
     in.set_param_delimiter(',');
     in.set_record_delimiter(';');
     return 0;
-  };
-  utString text;
-  in.read_holerith(text);
-  if (!in.error_type(igsIOValuePresent)) text = ";";
-  if (text.length() != 1)
-    return distinct_delimiter(m_record_delimiter, m_parameter_delimiter) ? 0 : keep_defaults();
-  char delimiter = text[0];
-  if (!distinct_delimiter(delimiter, m_parameter_delimiter)) {
-    raise<igsGlobalSectionInvalidRecordDelim>(delimiter);
-    return keep_defaults();
   }
   m_record_delimiter = delimiter;
   in.set_record_delimiter(delimiter);
