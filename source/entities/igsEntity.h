@@ -6,13 +6,13 @@
 #include "core/igsFactory.h"
 #include "core/igsObject.h"
 #include "core/igsObjectPtr.h"
+#include "core/igsUnset.h"
 #include "input/igsInStream.h"
 #include "output/igsOutStream.h"
 #include "sections/igsDECheck.h"
 #include "sections/igsDirectoryEntry.h"
 #include "support/coResource.h"
 #include "support/giGeometry.h"
-#include "core/igsUnset.h"
 #include "support/utOstream.h"
 
 #include <type_traits>
@@ -23,6 +23,24 @@ template <class Value> int igs_set_valid(Value& field, Value const& value) {
   if (value.invalid()) return 0;
   field = value;
   return 1;
+}
+
+// The rule of the setters of references that must be there: a null one leaves the field as it
+// was and gives 0.
+inline int igs_set_reference(igsObjectPtr& field, igsObjectPtr const& reference) {
+  if (!reference) return 0;
+  field = reference;
+  return 1;
+}
+
+// A flag of 0 or 1, compared as unsigned so that a negative value fails too.
+inline int igs_flag_valid(int flag) {
+  return static_cast<unsigned>(flag) <= 1u;
+}
+
+// "One" for 1, "zero" for 0, "other" for anything else.
+inline char const* igs_flag_word(int flag, char const* one, char const* zero, char const* other) {
+  return flag == 1 ? one : flag == 0 ? zero : other;
 }
 
 // The most elements that a count read from a file reserves at once. A larger count (often a
@@ -93,6 +111,14 @@ inline void igs_write_field(igsOutStream& out, igsObjectPtr const& reference) {
 // Writes the fields in order.
 template <class... Field> void igs_write_fields(igsOutStream& out, Field const&... fields) {
   (igs_write_field(out, fields), ...);
+}
+
+// Writes what `write()` writes with the parametric precision of reals (knots, angles and the
+// other values that are no coordinates).
+template <class Write> void igs_write_parametric(igsOutStream& out, Write const& write) {
+  out.push_double_format(kvnOptDoubleFieldWidth.value(), kvnOptDoubleParametricPrecision.value());
+  write();
+  out.pop_double_format();
 }
 
 // "Label = {", then on a nested stream the referenced entity or "(NullPointer)", then "}".
