@@ -99,11 +99,12 @@ inline CorpusRow const* corpus_row(kvuTypeInfo const& type) {
 }
 
 // One entity of a test file: type, form and the whole parameter record, which the file cuts
-// into P lines behind its delimiters.
+// into P lines behind its delimiters; and the colour number of its Directory Entry.
 struct Record {
   int type;
   int form;
   std::string data;
+  int colour = 0;
 };
 using Records = std::vector<Record>;
 

@@ -1,0 +1,244 @@
+// The surface family: planes, parametric spline surfaces, ruled surfaces, surfaces of
+// revolution, tabulated cylinders and the analytic surfaces in both forms; a file of every
+// class, each damage a file can carry with what check and repair make of it, and the setters.
+#include "entities/entityFamily.h"
+#include "entities/entityTestSupport.h"
+#include "entities/surfaces/igs108.h"
+#include "entities/surfaces/igs114.h"
+#include "entities/surfaces/igs118.h"
+#include "entities/surfaces/igs120.h"
+#include "entities/surfaces/igs122.h"
+#include "entities/surfaces/igs194_1.h"
+#include "entities/surfaces/igs198_0.h"
+
+using namespace igs_family_test;
+
+namespace {
+
+// The patches of a spline surface, behind a comma each: the 48 coefficients of patch p count
+// up from p.
+std::string patches(int count) {
+  std::string text;
+  for (int p = 0; p < count; ++p)
+    for (int k = 0; k < 48; ++k) text += "," + std::to_string(p + k) + ".";
+  return text;
+}
+
+std::string const lowest = "-1.7976931348623157D308"; // the unset double, spelled out
+
+// Every class, on the points, lines, arc and closed curve behind them (DE 37 to 45). No
+// direction class stands yet, so the analytic surfaces name none.
+Family const surfaces = {
+    "surfaces",
+    "surfaces",
+    {
+        {108, 0, "108,0.,0.,1.,5.,0,0.,0.,0.,0.;"},
+        {108, 1, "108,0.,0.,1.,0.,45,1.,1.,0.,2.;"},
+        {108, -1, "108,1.D-15,0.,0.,0.,43,0.,0.,0.,0.;"},
+        {114, 0, "114,3,0,2,1,0.,1.,1.,-1.,1." + patches(6) + ";"},
+        {118, 0, "118,39,41,0,0;"},
+        {118, 1, "118,37,43,1,1;"},
+        // A full turn and half the angle tolerance.
+        {120, 0, "120,39,43,0.,6.2831853076795865;"},
+        {122, 0, "122,43,0.,0.,10.;"},
+        {190, 0, "190,37,0;"},
+        {190, 1, "190,37,0,0;"},
+        {192, 0, "192,37,0,2.5;"},
+        {192, 1, "192,37,0,0.,0;"},
+        {194, 0, "194,37,0,1.,30.;"},
+        {194, 1, "194,37,0,2.,89.9,0;"},
+        {196, 0, "196,37,4.;"},
+        {196, 1, "196,37,4.,0,0;"},
+        {198, 0, "198,37,0,5.,1.;"},
+        {198, 1, "198,37,0,5.,4.999,0;"},
+        {116, 0, "116,0.,0.,0.,0;"},
+        {110, 0, "110,0.,0.,0.,0.,0.,1.;"},
+        {110, 0, "110,1.,0.,0.,1.,1.,0.;"},
+        {100, 0, "100,0.,0.,0.,1.,0.,-1.,0.;"},
+        {106, 63, "106,1,4,0.,0.,0.,1.,0.,1.,1.,0.,0.;"},
+    },
+    {"@17 igs190_0NullDirection", "@19 igs190_1NullDirection", "@19 igs190_1NullReference",
+     "@21 igs192_0NullAxis", "@23 igs192_1NullAxis", "@23 igs192_1NullReference",
+     "@25 igs194_0NullAxis", "@27 igs194_1NullAxis", "@27 igs194_1NullReference",
+     "@31 igs196_1NullAxis", "@31 igs196_1NullReference", "@33 igs198_0NullAxis",
+     "@35 igs198_1NullAxis", "@35 igs198_1NullReference"}};
+
+TEST(Surfaces, TheFamilyFile) {
+  expect_family(surfaces);
+}
+
+// What the damaged entities at DE 1 (and behind it) stand on.
+Record const point = {116, 0, "116,0.,0.,0.,0;"};
+Record const bad_point = {116, 0, "116," + lowest + ",0.,0.,0;"};
+Record const coloured_point = {116, 0, "116,1.,2.,3.,0;", 9}; // colour 9 is none
+Record const line = {110, 0, "110,0.,0.,0.,0.,0.,1.;"};
+Record const short_line = {110, 0, "110,1.,1.,1.,1.,1.,1.;"};
+Record const arc = {100, 0, "100,0.,0.,0.,1.,0.,-1.,0.;"};
+Record const off_centre_arc = {100, 0, "100,0.,0.3,0.5,1.,0.,-1.,0.;"};
+Record const no_radius_arc = {100, 0, "100,0.,3.,4.,3.,4.,3.,4.;"};
+Record const point_set = {106, 2, "106,2,2,0.,0.,0.,1.,2.,3.;"};
+Record const plane = {108, 0, "108,0.,0.,1.,0.,0,0.,0.,0.,0.;"};
+char const* const no_data_1 = "Warning : There is no Parameter Data associated with object DE 1.\n";
+
+Damage const damages[] = {
+    // Planes.
+    {"a bounded plane whose boundary is missing becomes an unbounded one",
+     {{108, 1, "108,0.,0.,1.,5.,0,0.,0.,0.,0.;"}},
+     {"@1 igs108NullBoundaryCurvePtr"},
+     {}},
+    {"an unbounded plane with a curve keeps both",
+     {{108, 0, "108,0.,0.,1.,5.,3,0.,0.,0.,0.;"}, line},
+     {"@1 igs108UnexpectedBoundaryCurve"},
+     {"@1 igs108UnexpectedBoundaryCurve"}},
+    {"a plane of no normal, and one whose normal is below the smallest value",
+     {{108, 0, "108,0.,0.,0.,5.,0,0.,0.,0.,0.;"},
+      {108, 0, "108,1.D-16,0.,-1.D-16,5.,0,0.,0.,0.,0.;"}},
+     {"@1 igs108AllZeroCoeffs", "@3 igs108AllCoeffsTooSmall"},
+     {"@1 igs108AllZeroCoeffs", "@3 igs108AllCoeffsTooSmall"}},
+    {"planes with an unset coefficient, a negative symbol size, a symbol of a size and no place",
+     {{108, 0, "108,0.,0.,1.," + lowest + ",0,0.,0.,0.,-1.;"},
+      {108, 0, "108,0.,0.,1.,0.,0," + lowest + ",0.,0.,2.;"},
+      {108, 0, "108,0.,0.,1.,0.,0," + lowest + ",0.,0.,0.;"}},
+     {"@1 igs108NegativeSymbolSize(size=-1)", "@1 igs108NoConstruct",
+      "@3 igs108InvalidSymbolPosition"},
+     {"@1 igs108NegativeSymbolSize(size=-1)", "@1 igs108NoConstruct",
+      "@3 igs108InvalidSymbolPosition"}},
+    {"a bounded plane on a point set gets a polyline in its place",
+     {{108, 1, "108,0.,0.,1.,0.,3,0.,0.,0.,0.;"}, point_set},
+     {"@1 igs108InvalidBoundaryType"},
+     {},
+     "",
+     "108,0.,0.,1.,0.,3,0.,0.,0.,0.;"},
+    {"a bounded plane on a point set that a point's symbol shares gets a polyline of its own",
+     {{108, 1, "108,0.,0.,1.,0.,3,0.,0.,0.,0.;"}, point_set, {116, 0, "116,0.,0.,0.,3;"}},
+     {"@1 igs108InvalidBoundaryType"},
+     {},
+     "",
+     "108,0.,0.,1.,0.,7,0.,0.,0.,0.;"},
+    {"a bounded plane on a point",
+     {{108, 1, "108,0.,0.,1.,0.,3,0.,0.,0.,0.;"}, point},
+     {"@1 igs108InvalidBoundaryType"},
+     {"@1 igs108InvalidBoundaryType"}},
+    {"a plane bounding a hole on an arc off centre is kept once the arc is repaired",
+     {{108, -1, "108,0.,0.,1.,0.,3,0.,0.,0.,0.;"}, off_centre_arc},
+     {"@1 igs108InvalidBoundaryCurveData", "@3 igs100InconsistRad"},
+     {}},
+    {"a bounded plane on an arc of no radius",
+     {{108, 1, "108,0.,0.,1.,0.,3,0.,0.,0.,0.;"}, no_radius_arc},
+     {"@1 igs108InvalidBoundaryCurveData", "@3 igs100ZeroRadius"},
+     {"@1 igs108InvalidBoundaryCurveData", "@3 igs100ZeroRadius"}},
+
+    // Ruled surfaces.
+    {"a ruled surface of flags out of range and no rails",
+     {{118, 0, "118,0,0,2,-1;"}},
+     {"@1 igs118InvalidDevelopableFlag(value=-1)", "@1 igs118InvalidDirection(value=2)",
+      "@1 igs118NullRailCurve1Ptr", "@1 igs118NullRailCurve2Ptr"},
+     {"@1 igs118InvalidDevelopableFlag(value=-1)", "@1 igs118InvalidDirection(value=2)",
+      "@1 igs118NullRailCurve1Ptr", "@1 igs118NullRailCurve2Ptr"}},
+    {"a ruled surface between two points",
+     {{118, 0, "118,3,5,0,0;"}, point, point},
+     {"@1 igs118BothRailCurvesPoints"},
+     {"@1 igs118BothRailCurvesPoints"}},
+    {"a ruled surface whose rails are point sets gets polylines in their place",
+     {{118, 1, "118,3,5,1,0;"}, point_set, point_set},
+     {"@1 igs118InvalidRailCurve1Type", "@1 igs118InvalidRailCurve2Type"},
+     {}},
+    {"a ruled surface whose rail curves are bad: an arc off centre is repaired, one of no radius "
+     "is not",
+     {{118, 0, "118,3,5,0,0;"}, off_centre_arc, no_radius_arc},
+     {"@1 igs118InvalidRailCurve1Data", "@1 igs118InvalidRailCurve2Data", "@3 igs100InconsistRad",
+      "@5 igs100ZeroRadius"},
+     {"@1 igs118InvalidRailCurve2Data", "@5 igs100ZeroRadius"}},
+    {"a ruled surface on a plane",
+     {{118, 0, "118,3,5,0,0;"}, plane, line},
+     {"@1 igs118InvalidRailCurve1Type"},
+     {"@1 igs118InvalidRailCurve1Type"}},
+
+    // Surfaces of revolution.
+    {"an inverted sweep is turned round",
+     {{120, 0, "120,3,5,1.,0.;"}, line, arc},
+     {"@1 igs120InvalidSweepAngle(sweep=-1)"},
+     {},
+     "",
+     "120,3,5,0.,1.;"},
+    {"a sweep of more than a full turn stays",
+     {{120, 0, "120,3,5,0.,7.;"}, line, arc},
+     {"@1 igs120InvalidSweepAngle(sweep=7)"},
+     {"@1 igs120InvalidSweepAngle(sweep=7)"}},
+    {"a sweep of nothing becomes a full turn",
+     {{120, 0, "120,3,5,0.5,0.5;"}, line, arc},
+     {"@1 igs120ZeroSweepAngle(end_angle=0.5)"},
+     {},
+     "",
+     "120,3,5,0.5,6.78318530717959;"},
+    // The line becomes a polyline, which is no axis.
+    {"a surface whose axis has no length",
+     {{120, 0, "120,3,5,0.,1.;"}, short_line, arc},
+     {"@1 igs120ZeroLengthAxis", "@3 igs110CoincidentPoints(tolerance=1e-09)"},
+     {"@1 igs120InvalidAxisType"}},
+    {"a surface whose axis is an arc and whose generatrix is missing",
+     {{120, 0, "120,3,0,0.,1.;"}, arc},
+     {"@1 igs120InvalidAxisType", "@1 igs120NullGeneratrixPtr"},
+     {"@1 igs120InvalidAxisType", "@1 igs120NullGeneratrixPtr"}},
+    {"a surface without an axis has its generatrix, a point set, made a polyline",
+     {{120, 0, "120,0,3,0.,1.;"}, point_set},
+     {"@1 igs120InvalidGeneratrixType", "@1 igs120NullAxisPtr"},
+     {"@1 igs120NullAxisPtr"}},
+    {"a surface whose axis line and generatrix arc fail their checks",
+     {{120, 0, "120,3,5,0.,1.;"}, {110, 0, "110,0.,0.,0.," + lowest + ",0.,1.;"}, off_centre_arc},
+     {"@1 igs120InvalidAxisData", "@1 igs120InvalidGeneratrixData", "@3 igs110InvalidEndPoint",
+      "@5 igs100InconsistRad"},
+     {"@1 igs120InvalidAxisData", "@3 igs110InvalidEndPoint"}},
+
+    // Tabulated cylinders.
+    {"a tabulated cylinder without a directrix, its end point unset",
+     {{122, 0, "122,0," + lowest + ",0.,0.;"}},
+     {"@1 igs122InvalidGeneratrixEndPt", "@1 igs122NullDirectrixPtr"},
+     {"@1 igs122InvalidGeneratrixEndPt", "@1 igs122NullDirectrixPtr"}},
+    {"a tabulated cylinder on a point set gets a polyline",
+     {{122, 0, "122,3,0.,0.,1.;"}, point_set},
+     {"@1 igs122InvalidDirectrixType"},
+     {}},
+    {"a tabulated cylinder on an arc off centre",
+     {{122, 0, "122,3,0.,0.,1.;"}, off_centre_arc},
+     {"@1 igs122InvalidDirectrixData", "@3 igs100InconsistRad"},
+     {}},
+
+    // Parametric spline surfaces.
+    {"a spline surface of no patches in U is not read",
+     {{114, 0, "114,3,1,0,1;"}},
+     {"@1 igs114BadNumUPatches(count=0)", "@1 igsFileNoPDData(de_number=1)"},
+     {"@1 igs114BadNumUPatches(count=0)"},
+     no_data_1},
+    {"a spline surface of a negative count in V is not read",
+     {{114, 0, "114,3,1,1,-1;"}},
+     {"@1 igs114BadNumVPatches(count=-1)", "@1 igsFileNoPDData(de_number=1)"},
+     {"@1 igs114BadNumVPatches(count=-1)"},
+     no_data_1},
+    {"a spline surface whose counts are far beyond its record is not read",
+     {{114, 0, "114,3,1,100000,1,0.,1.;"}},
+     {"@1 igs114BadNumUPatches(count=100000)", "@1 igsFileNoPDData(de_number=1)"},
+     {"@1 igs114BadNumUPatches(count=100000)"},
+     no_data_1},
+    {"a spline surface of types out of range, breakpoints out of order or unset, and a patch "
+     "with an unset coefficient",
+     {{114, 0,
+       "114,7,2,2,1,1.,0.,2.,1.," + lowest + patches(2) + "," + lowest + patches(1).substr(3) +
+           patches(3) + ";"}},
+     {"@1 igs114InvalidPatch(u=1,v=0)", "@1 igs114InvalidPatchType(value=2)",
+      "@1 igs114InvalidSplineType(value=7)",
+      "@1 igs114UBreakpointOutOfSequence(index=1,value=0,previous=1)",
+      "@1 igs114UnsetVBreakpoint(index=1)",
+      "@1 igs114VBreakpointOutOfSequence(index=1,value=-1.79769e+308,previous=1)"},
+     {"@1 igs114InvalidPatch(u=1,v=0)", "@1 igs114InvalidPatchType(value=2)",
+      "@1 igs114InvalidSplineType(value=7)",
+      "@1 igs114UBreakpointOutOfSequence(index=1,value=0,previous=1)",
+      "@1 igs114UnsetVBreakpoint(index=1)",
+      "@1 igs114VBreakpointOutOfSequence(index=1,value=-1.79769e+308,previous=1)"}},
+};
+
+TEST(Surfaces, EveryDamageIsFoundAndWhatCanBeRepairedIs) {
+  for (Damage const& damage : damages) expect_damage(damage);
+}
+
+} // namespace
