@@ -1,6 +1,7 @@
 // The surface family: planes, parametric spline surfaces, ruled surfaces, surfaces of
 // revolution, tabulated cylinders and the analytic surfaces in both forms; a file of every
 // class, each damage a file can carry with what check and repair make of it, and the setters.
+#include "core/igsCurrentFileScope.h"
 #include "entities/entityFamily.h"
 #include "entities/entityTestSupport.h"
 #include "entities/surfaces/igs108.h"
@@ -10,6 +11,7 @@
 #include "entities/surfaces/igs122.h"
 #include "entities/surfaces/igs194_1.h"
 #include "entities/surfaces/igs198_0.h"
+#include "entities/surfaces/igsSurfaceErrors.h"
 
 using namespace igs_family_test;
 
@@ -78,6 +80,7 @@ Record const off_centre_arc = {100, 0, "100,0.,0.3,0.5,1.,0.,-1.,0.;"};
 Record const no_radius_arc = {100, 0, "100,0.,3.,4.,3.,4.,3.,4.;"};
 Record const point_set = {106, 2, "106,2,2,0.,0.,0.,1.,2.,3.;"};
 Record const plane = {108, 0, "108,0.,0.,1.,0.,0,0.,0.,0.,0.;"};
+Record const direction = {123, 0, "123,0.,0.,1.;"};
 char const* const no_data_1 = "Warning : There is no Parameter Data associated with object DE 1.\n";
 
 Damage const damages[] = {
@@ -235,10 +238,202 @@ Damage const damages[] = {
       "@1 igs114UBreakpointOutOfSequence(index=1,value=0,previous=1)",
       "@1 igs114UnsetVBreakpoint(index=1)",
       "@1 igs114VBreakpointOutOfSequence(index=1,value=-1.79769e+308,previous=1)"}},
+
+    // Analytic surfaces. No direction class stands yet: a direction reads as missing.
+    {"analytic surfaces whose numbers are out of range or at their edges",
+     {{192, 0, "192,17,19,-1.;"},
+      {194, 0, "194,17,19,1.,90.;"},
+      {194, 1, "194,17,19,1.,0.,19;"},
+      {196, 0, "196,17,0.;"},
+      {198, 0, "198,17,19,5.,5.;"},
+      {198, 1, "198,17,19,-1.,5.,19;"},
+      {196, 1, "196,17,-2.,19,19;"},
+      {192, 1, "192,17,19,0.,19;"},
+      point,
+      direction},
+     {"@1 igs192_0InvalidRadius", "@1 igs192_0NullAxis", "@11 igs198_1InvalidMajorRadius",
+      "@11 igs198_1NullAxis", "@11 igs198_1NullReference", "@13 igs196_1InvalidRadius",
+      "@13 igs196_1NullAxis", "@13 igs196_1NullReference", "@15 igs192_1NullAxis",
+      "@15 igs192_1NullReference", "@3 igs194_0InvalidSemiAngle", "@3 igs194_0NullAxis",
+      "@5 igs194_1InvalidSemiAngle", "@5 igs194_1NullAxis", "@5 igs194_1NullReference",
+      "@7 igs196_0InvalidRadius", "@9 igs198_0InvalidRadii", "@9 igs198_0NullAxis"},
+     {"@1 igs192_0InvalidRadius", "@1 igs192_0NullAxis", "@11 igs198_1InvalidMajorRadius",
+      "@11 igs198_1NullAxis", "@11 igs198_1NullReference", "@13 igs196_1InvalidRadius",
+      "@13 igs196_1NullAxis", "@13 igs196_1NullReference", "@15 igs192_1NullAxis",
+      "@15 igs192_1NullReference", "@3 igs194_0InvalidSemiAngle", "@3 igs194_0NullAxis",
+      "@5 igs194_1InvalidSemiAngle", "@5 igs194_1NullAxis", "@5 igs194_1NullReference",
+      "@7 igs196_0InvalidRadius", "@9 igs198_0InvalidRadii", "@9 igs198_0NullAxis"}},
+    {"analytic surfaces whose unset numbers are not tested further",
+     {{192, 1, "192,9,11," + lowest + ",11;"},
+      {194, 0, "194,9,11,-1.," + lowest + ";"},
+      {198, 0, "198,9,11,5.," + lowest + ";"},
+      {196, 0, "196,9," + lowest + ";"},
+      point,
+      direction},
+     {"@1 igs192_1NoRadiusDefined", "@1 igs192_1NullAxis", "@1 igs192_1NullReference",
+      "@3 igs194_0InvalidRadius", "@3 igs194_0NoSemiAngleDefined", "@3 igs194_0NullAxis",
+      "@5 igs198_0NoMinorRadiusDefined", "@5 igs198_0NullAxis", "@7 igs196_0NoRadiusDefined"},
+     {"@1 igs192_1NoRadiusDefined", "@1 igs192_1NullAxis", "@1 igs192_1NullReference",
+      "@3 igs194_0InvalidRadius", "@3 igs194_0NoSemiAngleDefined", "@3 igs194_0NullAxis",
+      "@5 igs198_0NoMinorRadiusDefined", "@5 igs198_0NullAxis", "@7 igs196_0NoRadiusDefined"}},
+    {"analytic surfaces whose references are missing, of the wrong class or fail their checks",
+     {{190, 0, "190,0,11;"},
+      {190, 1, "190,13,13,15;"},
+      {194, 1, "194,11,15,1.,45.,11;"},
+      {198, 1, "198,0,0,2.,1.,0;"},
+      {196, 1, "196,15,1.,0,0;"},
+      point,
+      bad_point,
+      line},
+     {"@1 igs190_0NullLocation", "@1 igs190_0WrongDirectionType", "@13 igs116InvalidPoint",
+      "@3 igs190_1InvalidDirection", "@3 igs190_1InvalidLocation", "@3 igs190_1WrongDirectionType",
+      "@3 igs190_1WrongReferenceType", "@5 igs194_1WrongAxisType", "@5 igs194_1WrongReferenceType",
+      "@7 igs198_1NullAxis", "@7 igs198_1NullCentre", "@7 igs198_1NullReference",
+      "@9 igs196_1NullAxis", "@9 igs196_1NullReference", "@9 igs196_1WrongCentreType"},
+     {"@1 igs190_0NullLocation", "@1 igs190_0WrongDirectionType", "@13 igs116InvalidPoint",
+      "@3 igs190_1InvalidDirection", "@3 igs190_1InvalidLocation", "@3 igs190_1WrongDirectionType",
+      "@3 igs190_1WrongReferenceType", "@5 igs194_1WrongAxisType", "@5 igs194_1WrongReferenceType",
+      "@7 igs198_1NullAxis", "@7 igs198_1NullCentre", "@7 igs198_1NullReference",
+      "@9 igs196_1NullAxis", "@9 igs196_1NullReference", "@9 igs196_1WrongCentreType"}},
+    {"analytic surfaces whose point has no colour of the table",
+     {{190, 0, "190,5,7;"}, {192, 0, "192,5,7,1.;"}, coloured_point, direction},
+     {"@1 igs190_0InvalidLocation", "@1 igs190_0NullDirection", "@3 igs192_0InvalidLocation",
+      "@3 igs192_0NullAxis", "@5 igsDEInvalidColour"},
+     {"@1 igs190_0NullDirection", "@3 igs192_0NullAxis"}},
 };
 
 TEST(Surfaces, EveryDamageIsFoundAndWhatCanBeRepairedIs) {
   for (Damage const& damage : damages) expect_damage(damage);
+}
+
+// The repairs of the point come first; they settle the error of the plane surface that names
+// it, and not that of the cylinder.
+TEST(Surfaces, OnlyAPlaneSurfaceIsClearedByItsChildsRepairs) {
+  int result = 0;
+  auto file = igs_test::read_text(
+      file_text({{190, 0, "190,5,7;"}, {192, 0, "192,5,7,1.;"}, coloured_point, direction}),
+      result);
+  igsCurrentFileScope current(*file);
+  file->clean(0);
+  // Beside the missing direction.
+  EXPECT_EQ(igsObjectPtr(1)->num_logged_errors(), 1);
+  EXPECT_EQ(igsObjectPtr(3)->num_logged_errors(), 2);
+}
+
+// Built through their setters, the classes write what a file of them reads; what a setter
+// refuses leaves the entity as it was.
+using SurfaceSetters = igs_entity_test::EntityTest;
+
+TEST_F(SurfaceSetters, PlanesAndSweptSurfaces) {
+  auto* plane = new igs108;
+  // Unset, the size counts as negative.
+  EXPECT_EQ(checked(*plane),
+            (std::vector<std::string>{"igs108NegativeSymbolSize(size=-1.79769e+308)",
+                                      "igs108NoConstruct"}));
+  EXPECT_EQ(plane->set_planar_coefficients(0, 0, 0, 5), 0);
+  EXPECT_EQ(plane->set_planar_coefficients(0, 0, 1e-300, 5), 1);
+  EXPECT_EQ(plane->set_boundary_curve(igsObjectPtr()), 0);
+  EXPECT_EQ(plane->set_display_symbol(giPoint3(), 2.0), 0);
+  EXPECT_EQ(plane->set_display_symbol(giPoint3(1, 2, 3), -1.0), 1);
+  EXPECT_EQ(checked(*plane), (std::vector<std::string>{"igs108AllCoeffsTooSmall",
+                                                       "igs108NegativeSymbolSize(size=-1)"}));
+  EXPECT_EQ(written(*plane), records({"108,0.,0.,1.D-300,5.,0,1.,2.,3.,-1.;"}));
+  // The repair of a plane gone from its number does nothing.
+  auto* stale = new igs108NullBoundaryCurvePtr;
+  stale->set_key(plane->de_number() + 2);
+  EXPECT_EQ(stale->fix(), 0);
+
+  auto* point = new igs116;
+  auto* ruled = new igs118;
+  EXPECT_EQ(ruled->set_rail_curve_1(igsObjectPtr()), 0);
+  EXPECT_EQ(ruled->set_rail_curve_1(point), 1);
+  EXPECT_EQ(ruled->set_rail_curve_2(plane), 1); // the kind is the check's to judge
+  EXPECT_EQ(written(*ruled), records({"118,3,1,0,0;"}));
+
+  auto* revolved = new igs120;
+  EXPECT_EQ(checked(*revolved),
+            (std::vector<std::string>{"igs120NullAxisPtr", "igs120NullGeneratrixPtr",
+                                      "igs120ZeroSweepAngle(end_angle=-2.14748e+09)"}));
+  double const turn = 6.283185307179586;
+  EXPECT_EQ(revolved->set_axis(igsObjectPtr()), 0);
+  EXPECT_EQ(revolved->set_start_end_angle(1, 1), 0);
+  EXPECT_EQ(revolved->set_start_end_angle(0, turn + 5e-10), 0); // the check would pass it
+  EXPECT_EQ(revolved->set_start_end_angle(0, turn), 1);
+  EXPECT_EQ(revolved->end_angle(), turn);
+
+  auto* tabulated = new igs122;
+  EXPECT_EQ(tabulated->set_directrix(igsObjectPtr()), 0);
+  EXPECT_EQ(tabulated->set_generatrix_end_point(giPoint3()), 0);
+  EXPECT_EQ(tabulated->set_generatrix_end_point(giPoint3(0, 0, 1)), 1);
+  EXPECT_EQ(checked(*tabulated), std::vector<std::string>{"igs122NullDirectrixPtr"});
+}
+
+TEST_F(SurfaceSetters, SplineSurfaces) {
+  auto* surface = new igs114;
+  EXPECT_EQ(checked(*surface), std::vector<std::string>{"igs114NoConstruct"});
+  EXPECT_EQ(surface->set_number_of_patches(0, 1), 0);
+  ASSERT_EQ(surface->set_number_of_patches(1, 2), 1);
+  EXPECT_EQ(surface->set_number_of_patches(1, 2), 0); // sized once
+  EXPECT_EQ(surface->number_of_u_patches(), 2);
+  EXPECT_EQ(surface->number_of_v_breakpoints(), 3);
+  double const u[2] = {0, 1}, v[3] = {0, 1, 2};
+  EXPECT_EQ(surface->set_all_u_breakpoints(3, v), 0);
+  EXPECT_EQ(surface->set_all_u_breakpoints(2, u), 1);
+  EXPECT_EQ(surface->set_v_breakpoint(-1, 0.0), 0);
+  EXPECT_EQ(surface->set_v_breakpoint(3, 0.0), 0);
+  EXPECT_EQ(surface->set_v_breakpoint(1, 5.0), 1);
+  double value = 0.0;
+  EXPECT_EQ(surface->u_breakpoint(2, value), 0);
+  EXPECT_EQ(surface->v_breakpoint(1, value), 1);
+  EXPECT_EQ(value, 5.0);
+  double x[16], y[16], z[16];
+  for (int k = 0; k < 16; ++k) x[k] = y[k] = z[k] = k;
+  igsCubicPatch patch;
+  patch.set_coefficients(x, y, z);
+  igsCubicPatch unset_one = patch;
+  z[15] = igs_unset_double;
+  unset_one.set_coefficients(x, y, z);
+  EXPECT_EQ(surface->set_patch(0, 0, unset_one), 0);
+  EXPECT_EQ(surface->set_patch(2, 0, patch), 0);
+  EXPECT_EQ(surface->set_patch(1, 2, patch), 1);
+  double u0, u1, v0, v1;
+  igsCubicPatch out;
+  EXPECT_EQ(surface->patch(1, 0, u0, u1, v0, v1, out), 0); // no breakpoint behind the last
+  ASSERT_EQ(surface->patch(0, 1, u0, u1, v0, v1, out), 1);
+  EXPECT_EQ(std::vector<double>({u0, u1, v0, v1}),
+            std::vector<double>({0, 1, 5, -1.7976931348623157e308}));
+  ASSERT_EQ(surface->patch(1, 2, out), 1);
+  out.coefficients(x, y, z);
+  EXPECT_EQ(z[15], 15.0);
+  auto errors = checked(*surface);
+  EXPECT_EQ(errors.size(), 8u); // five unset patches, two unset breakpoints, one out of order
+  EXPECT_EQ(errors[0], "igs114InvalidPatch(u=0,v=0)");
+  EXPECT_EQ(errors.back(),
+            "igs114VBreakpointOutOfSequence(index=2,value=-1.79769e+308,previous=5)");
+}
+
+TEST_F(SurfaceSetters, AnalyticSurfaces) {
+  auto* point = new igs116;
+  auto* torus = new igs198_0;
+  EXPECT_EQ(checked(*torus), (std::vector<std::string>{"igs198_0NoMajorRadiusDefined",
+                                                       "igs198_0NoMinorRadiusDefined",
+                                                       "igs198_0NullAxis", "igs198_0NullCentre"}));
+  EXPECT_EQ(torus->set_centre(point), 1);
+  EXPECT_EQ(torus->set_radii(2.0, 3.0), 1); // the check judges them
+  // The point has no coordinates yet.
+  EXPECT_EQ(checked(*torus),
+            (std::vector<std::string>{"igs198_0InvalidCentre", "igs198_0InvalidRadii",
+                                      "igs198_0NullAxis"}));
+  EXPECT_EQ(torus->major_radius(), 2.0);
+  EXPECT_EQ(written(*torus), records({"198,1,0,2.,3.;"}));
+
+  auto* cone = new igs194_1;
+  EXPECT_EQ(cone->set_location(igsObjectPtr()), 1);
+  EXPECT_EQ(cone->set_axis(point), 1);
+  EXPECT_EQ(cone->set_reference(point), 1);
+  EXPECT_EQ(cone->set_radius(1.5), 1);
+  EXPECT_EQ(cone->set_semi_angle(45.0), 1);
+  EXPECT_EQ(written(*cone), records({"194,0,1,1.5,45.,1;"}));
 }
 
 } // namespace
