@@ -34,12 +34,7 @@ int igs108::set_display_symbol(giPoint3 const& location, double size) {
 }
 
 int igs108::read_pd_data(igsInStream& in) {
-  igsObjectPtr boundary;
-  igs_read_fields(in, m_a, m_b, m_c, m_d, boundary);
-  m_boundary = std::move(boundary);
-  giPoint3 location;
-  igs_read_fields(in, location, m_symbol_size);
-  m_symbol_location = location;
+  igs_read_fields(in, m_a, m_b, m_c, m_d, m_boundary, m_symbol_location, m_symbol_size);
   return 1;
 }
 

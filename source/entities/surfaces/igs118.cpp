@@ -13,10 +13,7 @@ int igs118::set_rail_curve_2(igsObjectPtr const& rail) {
 }
 
 int igs118::read_pd_data(igsInStream& in) {
-  igsObjectPtr rail_1, rail_2;
-  igs_read_fields(in, rail_1, rail_2, m_direction, m_developable);
-  m_rail_1 = std::move(rail_1);
-  m_rail_2 = std::move(rail_2);
+  igs_read_fields(in, m_rail_1, m_rail_2, m_direction, m_developable);
   return 1;
 }
 

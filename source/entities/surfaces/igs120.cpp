@@ -24,10 +24,7 @@ int igs120::set_start_end_angle(double start, double end) {
 
 // The axis comes first in the file.
 int igs120::read_pd_data(igsInStream& in) {
-  igsObjectPtr axis, generatrix;
-  igs_read_fields(in, axis, generatrix, m_start, m_end);
-  m_axis = std::move(axis);
-  m_generatrix = std::move(generatrix);
+  igs_read_fields(in, m_axis, m_generatrix, m_start, m_end);
   return 1;
 }
 

@@ -9,11 +9,7 @@ int igs122::set_directrix(igsObjectPtr const& directrix) {
 }
 
 int igs122::read_pd_data(igsInStream& in) {
-  igsObjectPtr directrix;
-  giPoint3 end;
-  igs_read_fields(in, directrix, end);
-  m_directrix = std::move(directrix);
-  m_end = end;
+  igs_read_fields(in, m_directrix, m_end);
   return 1;
 }
 

@@ -7,10 +7,5 @@ class igs198_0 : public igsAnalyticSurface<igsUnparameterizedSurface, 2, 2> {
   IGS_ANALYTIC_CLASS(igs198_0)
   IGS_ANALYTIC_REFERENCE(centre, 0)
   IGS_ANALYTIC_REFERENCE(axis, 1)
-  double major_radius() const { return number_at(0); }
-  double minor_radius() const { return number_at(1); }
-  int set_radii(double major, double minor) {
-    set_number_at(0, major);
-    return set_number_at(1, minor);
-  }
+  IGS_ANALYTIC_RADII
 };

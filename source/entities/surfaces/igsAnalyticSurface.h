@@ -85,46 +85,35 @@ class igsAnalyticSurface : public igsChildEntity<Mark> {
   }
 
   int read_pd_data(igsInStream& in) override {
-    int r = 0, n = 0;
-    for (igsAnalyticParameter const& p : layout()) {
-      if (p.kind == igsAnalyticParameter::Reference) {
-        igsObjectPtr reference;
-        igs_read_field(in, reference);
-        m_references[r++] = std::move(reference);
-      } else if (p.kind == igsAnalyticParameter::Number) {
-        double value = 0.0;
-        igs_read_field(in, value);
-        m_numbers[n++] = value;
-      }
-    }
+    walk(
+        *this, [&](auto const&, igsObjectPtr& r) { igs_read_field(in, r); },
+        [&](auto const&, double& value) { igs_read_field(in, value); });
     return 1;
   }
 
   // The numbers are parametric values.
   void write_pd_data(igsOutStream& out) override {
     igs_write_parametric(out, [&] {
-      int r = 0, n = 0;
-      for (igsAnalyticParameter const& p : layout()) {
-        if (p.kind == igsAnalyticParameter::Reference) igs_write_field(out, m_references[r++]);
-        if (p.kind == igsAnalyticParameter::Number) igs_write_field(out, m_numbers[n++]);
-      }
+      walk(
+          *this, [&](auto const&, igsObjectPtr const& r) { igs_write_field(out, r); },
+          [&](auto const&, double value) { igs_write_field(out, value); });
     });
   }
 
   void print_pd_data(utOstream& out) const override {
-    int r = 0, n = 0;
-    for (igsAnalyticParameter const& p : layout()) {
-      if (p.kind == igsAnalyticParameter::Reference)
-        igs_print_reference(out, p.label, m_references[r++]);
-      if (p.kind != igsAnalyticParameter::Number) continue;
-      double value = m_numbers[n++];
-      out << p.label;
-      if (igs_unset(value))
-        out << "(Undefined)";
-      else
-        out << value;
-      out << "\n";
-    }
+    walk(
+        *this,
+        [&](igsAnalyticParameter const& p, igsObjectPtr const& r) {
+          igs_print_reference(out, p.label, r);
+        },
+        [&](igsAnalyticParameter const& p, double value) {
+          out << p.label;
+          if (igs_unset(value))
+            out << "(Undefined)";
+          else
+            out << value;
+          out << "\n";
+        });
   }
 
   // Every reference, in its order; then every number, and the agreements between them. A
@@ -165,6 +154,17 @@ class igsAnalyticSurface : public igsChildEntity<Mark> {
   }
 
  private:
+  // Calls on_reference(parameter, reference) and on_number(parameter, number) for each in file
+  // order.
+  template <class Self, class OnReference, class OnNumber>
+  static void walk(Self& self, OnReference const& on_reference, OnNumber const& on_number) {
+    int r = 0, n = 0;
+    for (igsAnalyticParameter const& p : self.layout()) {
+      if (p.kind == igsAnalyticParameter::Reference) on_reference(p, self.m_references[r++]);
+      if (p.kind == igsAnalyticParameter::Number) on_number(p, self.m_numbers[n++]);
+    }
+  }
+
   std::array<igsObjectPtr, References> m_references;
   std::array<double, Numbers> m_numbers;
 };
@@ -191,6 +191,19 @@ class igsAnalyticSurface : public igsChildEntity<Mark> {
   }                                                                                                \
   int set_##name(double value) {                                                                   \
     return set_number_at(index, value);                                                            \
+  }
+
+// The two radii of a torus, the numbers at 0 and 1, set together.
+#define IGS_ANALYTIC_RADII                                                                         \
+  double major_radius() const {                                                                    \
+    return number_at(0);                                                                           \
+  }                                                                                                \
+  double minor_radius() const {                                                                    \
+    return number_at(1);                                                                           \
+  }                                                                                                \
+  int set_radii(double major, double minor) {                                                      \
+    set_number_at(0, major);                                                                       \
+    return set_number_at(1, minor);                                                                \
   }
 
 // The parameters of a layout, named by the words of their errors: Class##Null##Word and so on.
