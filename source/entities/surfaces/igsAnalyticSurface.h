@@ -24,7 +24,7 @@ struct igsAnalyticParameter {
   Kind kind;
   // A reference prints as "<label> = {", a number as "<label><value>".
   char const* label;
-  int (*target)(igsObject const&);
+  igsChildKind target;
   int (*in_range)(double);
   int (*agree)(double first, double second);
   // Reference: null, wrong class, failed check. Number: unset, out of range. Agreement: first.
@@ -36,8 +36,8 @@ template <class E> igsObjectError* igs_make_error() {
   return new (std::nothrow) E;
 }
 
-// The classes that the references name.
-// A direction is tested by the name of its class.
+// A point must be exactly igs116, a direction exactly igs123: tested by the name of its class,
+// which stands with the structure entities.
 inline int igs_is_direction(igsObject const& object) {
   return igs_record_is(object.objtype(), "igs123");
 }
