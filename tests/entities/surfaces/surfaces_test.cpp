@@ -181,6 +181,11 @@ Damage const damages[] = {
       "@5 igs100InconsistRad"},
      {"@1 igs120InvalidAxisData", "@3 igs110InvalidEndPoint"}},
 
+    {"a surface whose axis line has no colour of the table is kept once the line is repaired",
+     {{120, 0, "120,3,5,0.,1.;"}, {110, 0, "110,0.,0.,0.,0.,0.,1.;", 9}, arc},
+     {"@1 igs120InvalidAxisData", "@3 igsDEInvalidColour"},
+     {}},
+
     // Tabulated cylinders.
     stays("a tabulated cylinder without a directrix, its end point unset",
           {{122, 0, "122,0," + lowest + ",0.,0.;"}},
