@@ -20,6 +20,7 @@
 #include <new>
 #include <sstream>
 #include <string>
+#include <vector>
 
 // Live and peak heap bytes of the whole program, while counting is on. The timed reads run
 // with it off, so that they do not pay for the count.
@@ -265,8 +266,8 @@ struct RecordText {
     data.resize(72, ' ');
     return data + letter + number(number_, 7) + "\n";
   }
-  // The DE number of the record.
-  int add(int type, int form, std::string fields) {
+  // The DE number of the record; `matrix` is the DE number of its transformation matrix.
+  int add(int type, int form, std::string fields, int matrix = 0) {
     int de = 2 * entities + 1;
     int first = p_line + 1;
     fields = std::to_string(type) + fields + ";";
@@ -277,12 +278,12 @@ struct RecordText {
       data.resize(64, ' ');
       p += line(data + " " + number(de, 7), 'P', ++p_line);
     }
-    d += line(number(type, 8) + number(first, 8) + "       0       0       0       0       0" +
-                  "       000000000",
+    d += line(number(type, 8) + number(first, 8) + "       0       0       0       0" +
+                  number(matrix, 8) + "       000000000",
               'D', de);
-    d += line(number(type, 8) + "       0       0" + number(p_line - first + 1, 8) +
-                  number(form, 8),
-              'D', de + 1);
+    d +=
+        line(number(type, 8) + "       0       0" + number(p_line - first + 1, 8) + number(form, 8),
+             'D', de + 1);
     ++entities;
     return de;
   }
@@ -307,7 +308,7 @@ Generated generate_solids(std::size_t at_least) {
   // The corners of a box, the edges between them and the faces over four edges each.
   static int const ends[12][2] = {{0, 1}, {1, 2}, {2, 3}, {3, 0}, {4, 5}, {5, 6},
                                   {6, 7}, {7, 4}, {0, 4}, {1, 5}, {2, 6}, {3, 7}};
-  static int const faces[6][4] = {{0, 1, 2, 3}, {4, 5, 6, 7}, {0, 9, 4, 8},
+  static int const faces[6][4] = {{0, 1, 2, 3},  {4, 5, 6, 7},   {0, 9, 4, 8},
                                   {1, 10, 5, 9}, {2, 11, 6, 10}, {3, 8, 7, 11}};
   auto de_of = [&](int k) { return 2 * (file.entities + k) + 1; };
   while (file.d.size() + file.p.size() < at_least) {
@@ -350,6 +351,91 @@ void BM_ReadSolids(benchmark::State& state) {
 }
 BENCHMARK(BM_ReadSolids)->Unit(benchmark::kMillisecond)->Iterations(3);
 // ---- End of the boundary representation.
+
+// ---- Structure: transformation matrices, directions, groups, views, drawings and subfigures.
+// A file in units of 17 entities: a matrix, a direction, eight points placed by the matrix, an
+// unordered group of the points, a planar group of four of them with the matrix, a view, a
+// drawing of the view and four points, a subfigure definition of the points and an instance
+// of it, and an ordered group of the two groups.
+Generated generate_structure(std::size_t at_least) {
+  RecordText file;
+  Reals reals;
+  auto list = [](std::vector<int> const& members) {
+    std::string text = "," + std::to_string(members.size());
+    for (int m : members) text += "," + std::to_string(m);
+    return text;
+  };
+  for (int view_number = 1; file.d.size() + file.p.size() < at_least; ++view_number) {
+    int matrix = file.add(124, 0,
+                          ",0.,-1.,0.," + reals.next() + ",1.,0.,0.," + reals.next() +
+                              ",0.,0.,1.," + reals.next());
+    file.add(123, 0, ",0.6,0.,0.8");
+    std::vector<int> points;
+    for (int i = 0; i < 8; ++i)
+      points.push_back(file.add(
+          116, 0, "," + reals.next() + "," + reals.next() + "," + reals.next() + ",0", matrix));
+    int group = file.add(402, 7, list(points));
+    int planar = file.add(402, 16,
+                          ",1,4," + std::to_string(matrix) +
+                              list({points[0], points[1], points[2], points[3]}).substr(2));
+    int view = file.add(410, 0, "," + std::to_string(view_number) + ",1.,0,0,0,0,0,0");
+    file.add(404, 0,
+             ",1," + std::to_string(view) + ",0.,0." +
+                 list({points[4], points[5], points[6], points[7]}));
+    int definition = file.add(308, 0, ",0,4HPART" + list(points));
+    file.add(408, 0,
+             "," + std::to_string(definition) + "," + reals.next() + "," + reals.next() + ",0.,1.");
+    file.add(402, 15, list({group, planar}));
+  }
+  return file.text();
+}
+
+void BM_ReadStructureFile(benchmark::State& state) {
+  static Generated const g = generate_structure(20u << 20);
+  measure_read(state, g);
+}
+BENCHMARK(BM_ReadStructureFile)->Unit(benchmark::kMillisecond)->Iterations(3);
+// ---- End of the structure entities.
+
+// ---- B-spline curves: rational B-spline curves as CAD systems write them, cubic, of 4 to 19
+// control points over clamped knots, now polynomial (weights of 1.) and now rational, with
+// reals of about a dozen digits, which make nearly all of such a file.
+Generated generate_bspline_curves(std::size_t at_least) {
+  RecordText file;
+  Reals reals;
+  // Strings are appended, not joined with +: a literal + a string trips a false -Wrestrict of
+  // g++ 12 at -O2.
+  auto real = [](double value) {
+    char text[32];
+    std::snprintf(text, sizeof text, ",%.12g", value);
+    return std::string(text);
+  };
+  for (int index = 0; file.d.size() + file.p.size() < at_least; ++index) {
+    int const degree = 3;
+    int const points = 4 + index % 16;
+    bool const rational = index % 4 == 3;
+    std::string fields(",");
+    fields.append(std::to_string(points - 1)).append(",").append(std::to_string(degree));
+    fields.append(rational ? ",0,0,0,0" : ",0,0,1,0");
+    int const spans = points - degree;
+    for (int i = 0; i <= degree; ++i) fields.append(",0.");
+    for (int i = 1; i < spans; ++i) fields.append(real(static_cast<double>(i) / spans));
+    for (int i = 0; i <= degree; ++i) fields.append(",1.");
+    for (int i = 0; i < points; ++i)
+      fields.append(rational && i % 3 ? real(0.5 + i % 3 * 0.25) : ",1.");
+    for (int i = 0; i < 3 * points; ++i) fields.append(",").append(reals.next());
+    fields.append(",0.,1.,0.,0.,0.");
+    file.add(126, 0, fields);
+  }
+  return file.text();
+}
+
+void BM_ReadBsplineCurves(benchmark::State& state) {
+  static Generated const g = generate_bspline_curves(50u << 20);
+  measure_read(state, g);
+}
+BENCHMARK(BM_ReadBsplineCurves)->Unit(benchmark::kMillisecond)->Iterations(3);
+// ---- End of the B-spline curves.
 
 // ---- Surfaces: planes, spline, swept and analytic surfaces on their points, lines and arcs.
 // Each unit holds a point, two directions, a line and an arc; a bounded plane on the arc; a

@@ -54,6 +54,19 @@ template <class Array> int igs_reserve(Array& array, int count) {
   return array.reserve(count < igs_max_initial_reserve ? count : igs_max_initial_reserve);
 }
 
+// Reads the members of a list that follow its count: up to `count` of them, each given by
+// `read_one()`, appended in order in place of what the list held. A record that ends early
+// gives the members it holds, so that a damaged count costs neither time nor memory. 0 when
+// the list could not grow.
+template <class List, class ReadOne>
+int igs_read_members(igsInStream& in, int count, List& list, ReadOne const& read_one) {
+  list.clear();
+  if (count > 0 && !igs_reserve(list, count)) return 0;
+  for (int i = 0; i < count && !in.frozen(); ++i)
+    if (!list.append(read_one())) return 0;
+  return 1;
+}
+
 // One field each. The stream gives 0 for a defaulted field; a point or vector is made of its
 // coordinates in order; a reference is a DE number, bound at once.
 inline void igs_read_field(igsInStream& in, int& value) {
@@ -113,13 +126,21 @@ template <class... Field> void igs_write_fields(igsOutStream& out, Field const&.
   (igs_write_field(out, fields), ...);
 }
 
-// Writes what `write()` writes with the parametric precision of reals (knots, angles and the
-// other values that are no coordinates).
-template <class Write> void igs_write_parametric(igsOutStream& out, Write const& write) {
-  out.push_double_format(kvnOptDoubleFieldWidth.value(), kvnOptDoubleParametricPrecision.value());
-  write();
-  out.pop_double_format();
-}
+// Writes the reals of the stream with the parametric precision while it stands: knots, angles
+// and the other values that are no coordinates.
+class igsParametricFormat {
+ public:
+  explicit igsParametricFormat(igsOutStream& out) : m_out(out) {
+    m_out.push_double_format(kvnOptDoubleFieldWidth.value(),
+                             kvnOptDoubleParametricPrecision.value());
+  }
+  ~igsParametricFormat() { m_out.pop_double_format(); }
+  igsParametricFormat(igsParametricFormat const&) = delete;
+  igsParametricFormat& operator=(igsParametricFormat const&) = delete;
+
+ private:
+  igsOutStream& m_out;
+};
 
 // "Label = {", then on a nested stream the referenced entity or "(NullPointer)", then "}".
 void igs_print_reference(utOstream& out, char const* label, igsObjectPtr const& reference);

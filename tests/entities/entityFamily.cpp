@@ -3,6 +3,7 @@
 #include "core/igsCurrentFileScope.h"
 #include "core/igsNull.h"
 #include "support/kvnabs.h"
+#include "support/wholeRoad.h"
 
 #include <cctype>
 #include <cstdlib>
@@ -105,7 +106,7 @@ std::string registered_class(int type, int form) {
 std::string file_text(Records const& records) {
   igs_read_test::FileText text;
   for (Record const& r : records)
-    text.entity(text.add(r.type, r.form, cut(r.data))).colour = r.colour;
+    text.entity(text.add(r.type, r.form, cut(r.data), r.matrix)).colour = r.colour;
   return text.text();
 }
 
@@ -156,7 +157,15 @@ void expect_damage(Damage const& damage) {
     if (!damage.repaired.empty()) {
       EXPECT_EQ(written_record(*f.file, 1), damage.repaired);
     }
-    auto faults = igs_test::round_trip_faults(*f.file, "clean(0)");
+    std::vector<std::string> faults;
+    bool holds_null = false;
+    for (igsFileIT it(f.file.get()); ++it;) holds_null = holds_null || it()->isa(igsNull::type());
+    if (holds_null) {
+      igs_test::SilentOutput sink;
+      igs_test::judge_written_text(*f.file, sink, "clean(0)", faults);
+    } else {
+      faults = igs_test::round_trip_faults(*f.file, "clean(0)");
+    }
     EXPECT_TRUE(faults.empty()) << faults_text(faults);
   }
   // What stays bad goes with clean(1): what is left has no error, and its text reads back to

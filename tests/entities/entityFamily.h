@@ -99,11 +99,13 @@ inline CorpusRow const* corpus_row(kvuTypeInfo const& type) {
 }
 
 // One entity of a test file: type, form and the whole parameter record, which the file cuts
-// into P lines behind its delimiters; and the colour number of its Directory Entry.
+// into P lines behind its delimiters, and the DE number of its transformation matrix and its
+// colour number.
 struct Record {
   int type;
   int form;
   std::string data;
+  int matrix = 0;
   int colour = 0;
 };
 using Records = std::vector<Record>;
@@ -125,7 +127,9 @@ struct Family {
 void expect_family(Family const& family);
 
 // A damaged file and what must come of it. Errors are written "@DE Class(arguments)" for
-// object and structure errors, "Class(arguments)" for the others, sorted.
+// object and structure errors, "Class(arguments)" for the others, sorted. A null entity that a
+// repair put in an entity's place is written, and reading drops it as it drops every null
+// entity: the round trip after clean(0) then holds the file to the entities that reading keeps.
 struct Damage {
   char const* what;
   Records records;
@@ -135,7 +139,7 @@ struct Damage {
   std::string repaired = {};       // if given: the record of DE 1 as written after clean(0)
   // What check finds in the text that clean(1) left: nothing, unless a repair that kept an
   // entity made it lean on one that clean(1) then deleted, or made an entity of its own that
-  // its next check finds fault with.
+  // its next check finds fault with, or only let the log forget an error.
   std::vector<std::string> after_delete = {};
 };
 

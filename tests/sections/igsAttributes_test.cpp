@@ -291,20 +291,20 @@ TEST_F(AttributeTest, ViewsByNumberAndByReference) {
 }
 
 TEST_F(AttributeTest, DefinitionClassesAreTestedByName) {
-  auto* matrix = new fake::igs124;
-  auto* kind = new fake::matrixKind;
+  auto* colour = new fake::igs314;
+  auto* kind = new fake::colourKind;
   auto* node = new deNode;
-  EXPECT_TRUE(igs_isa_class(matrix, igs124_class));
-  EXPECT_TRUE(igs_typeof_class(matrix, igs124_class));
-  EXPECT_FALSE(igs_isa_class(kind, igs124_class));
-  EXPECT_TRUE(igs_typeof_class(kind, igs124_class));
-  EXPECT_FALSE(igs_typeof_class(node, igs124_class));
-  EXPECT_FALSE(igs_typeof_class(matrix, igs314_class));
-  EXPECT_FALSE(igs_isa_class(static_cast<igsObject const*>(nullptr), igs124_class));
-  EXPECT_FALSE(igs_typeof_class(igsObjectPtr(), igs124_class));
-  EXPECT_TRUE(igs_isa_class(igsObjectPtr(matrix), igs124_class));
+  EXPECT_TRUE(igs_isa_class(colour, igs314_class));
+  EXPECT_TRUE(igs_typeof_class(colour, igs314_class));
+  EXPECT_FALSE(igs_isa_class(kind, igs314_class));
+  EXPECT_TRUE(igs_typeof_class(kind, igs314_class));
+  EXPECT_FALSE(igs_typeof_class(node, igs314_class));
+  EXPECT_FALSE(igs_typeof_class(colour, igs410_0_class));
+  EXPECT_FALSE(igs_isa_class(static_cast<igsObject const*>(nullptr), igs314_class));
+  EXPECT_FALSE(igs_typeof_class(igsObjectPtr(), igs314_class));
+  EXPECT_TRUE(igs_isa_class(igsObjectPtr(colour), igs314_class));
   // An empty slot reads as no entity.
-  EXPECT_FALSE(igs_typeof_class(igsObjectPtr(99), igs124_class));
+  EXPECT_FALSE(igs_typeof_class(igsObjectPtr(99), igs314_class));
 }
 
 } // namespace

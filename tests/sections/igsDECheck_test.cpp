@@ -44,7 +44,10 @@ TEST_F(DECheckTest, AllStepsRaiseInTheirOrder) {
 
   // A sound entry raises nothing; a re-check starts clean.
   igsDirectoryFields good;
-  good.matrix = (new fake::igs124)->de_number();
+  auto* rotation = new igs124;
+  double const identity[4][4] = {{1, 0, 0, 0}, {0, 1, 0, 0}, {0, 0, 1, 0}, {0, 0, 0, 1}};
+  rotation->set_matrix(identity);
+  good.matrix = rotation->de_number();
   good.line_weight_number = 1; // the Global section's maximum
   entity->directory_entry().set_fields(good);
   EXPECT_EQ(entity->check(), 1);

@@ -72,7 +72,7 @@ TEST_F(DirectoryEntryTest, FieldsWrittenAndReadBackAreEqual) {
   new fake::igs314;
   new deNode;
   new fake::igs410_0;
-  new fake::igs124;
+  new igs124;
   new deNode;
   int const line_fonts[] = {-1, 0, 1, 2, 3, 4, 5, 6, -99, -9999999};
   int const levels[] = {-5, 0, 7, 99999999, 12345};
@@ -216,7 +216,7 @@ TEST_F(DirectoryEntryTest, ReadingTakesBlankFieldsAsZeroAndKeepsEverythingElse) 
 
 TEST_F(DirectoryEntryTest, SettersRefuseWhatTheChecksWouldRefuse) {
   auto* entity = new deNode;
-  auto* matrix = new fake::igs124;
+  auto* matrix = new igs124;
   auto* font = new fake::igs304_2;
   igsDirectoryEntry& de = entity->directory_entry();
 
@@ -287,8 +287,8 @@ TEST_F(DirectoryEntryTest, DroppingChildrenDeletesWhatOnlyTheEntryHeld) {
     f.matrix = 9;
     return f;
   }());
-  new deNode;       // DE 7, the view
-  new fake::igs124; // DE 9, the matrix
+  new deNode; // DE 7, the view
+  new igs124; // DE 9, the matrix
   EXPECT_EQ(file->num_entities(), 5);
   entity->drop_children();
   // The line font definition, the view and the matrix went; the colour is held elsewhere.
@@ -338,7 +338,7 @@ TEST_F(DirectoryEntryTest, PrintShowsEveryFieldWithItsName) {
 
   new fake::igs304_1; // DE 3
   new deNode;         // DE 5
-  auto* matrix = new fake::igs124;
+  auto* matrix = new deNode;
   igsDirectoryFields f;
   f.structure = -3;
   f.line_font = -3;

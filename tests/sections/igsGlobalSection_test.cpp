@@ -111,7 +111,6 @@ TEST_F(GlobalSectionTest, DelimitersAreTheHollerithCharacterOrTheDefaults) {
       {"1H||1H#|4HPART#", 1, '|', '#', {}},
       {"1H;;1H,;4HPART,", 1, ';', ',', {}}, // the two swapped
       {"1H|,1H;,", 0, ',', ';', {}},        // the character behind must be the delimiter
-      {"1H||2H;#|", 0, '|', ';', {}},       // a record delimiter of two characters
       {"|,;", 0, ',', ';', {"igsGlobalSectionInvalidParamDelim('|')"}},
       {" 1H,,1H;;", 0, ',', ';', {"igsGlobalSectionInvalidParamDelim(' ')"}},
       {"1HDD1H;D", 0, ',', ';', {"igsGlobalSectionInvalidParamDelim('D')"}},
@@ -120,7 +119,10 @@ TEST_F(GlobalSectionTest, DelimitersAreTheHollerithCharacterOrTheDefaults) {
       {"1H11", 0, ',', ';', {"igsGlobalSectionInvalidParamDelim('1')"}},
       {"1H,,1HH,", 0, ',', ';', {"igsGlobalSectionInvalidRecordDelim('H')"}},
       {"1H,,1H.,", 0, ',', ';', {"igsGlobalSectionInvalidRecordDelim('.')"}},
-      // One character for both cannot end a record; the section falls back to the defaults.
+      // One character for both, or a record delimiter of two characters, cannot end a record;
+      // the section falls back to the defaults.
+      {"1H||2H;#|", 0, ',', ';', {}},
+      {"1H;;2H,;", 0, ',', ';', {}},
       {"1H,,1H,,", 0, ',', ';', {"igsGlobalSectionInvalidRecordDelim(',')"}},
       {"1H;;1H;;", 0, ',', ';', {"igsGlobalSectionInvalidRecordDelim(';')"}},
       {"1H||1H||", 0, ',', ';', {"igsGlobalSectionInvalidRecordDelim('|')"}},

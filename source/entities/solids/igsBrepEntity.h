@@ -118,19 +118,6 @@ template <class T> class igsExactArray {
   int m_size = 0;
 };
 
-// Reads the members of a list that follow its count: up to `count` of them, each given by
-// `read_one()`, appended in order in place of what the list held. A record that ends early
-// gives the members it holds, so that a damaged count costs neither time nor memory. 0 when
-// the list could not grow.
-template <class List, class ReadOne>
-int igs_read_members(igsInStream& in, int count, List& list, ReadOne const& read_one) {
-  list.clear();
-  if (count > 0 && !igs_reserve(list, count)) return 0;
-  for (int i = 0; i < count && !in.frozen(); ++i)
-    if (!list.append(read_one())) return 0;
-  return 1;
-}
-
 // "Label (n) = {" and the opening's tail, with n counted from 1; then what `inner` prints one
 // tab level deeper; then "}".
 template <class Inner>

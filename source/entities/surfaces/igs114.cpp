@@ -161,10 +161,11 @@ int igs114::read_patches(igsInStream& in) {
 void igs114::write_pd_data(igsOutStream& out) {
   int m = m_u.size() ? m_u.size() - 1 : 0, n = m_v.size() ? m_v.size() - 1 : 0;
   igs_write_fields(out, m_spline_type, m_patch_type, m, n);
-  igs_write_parametric(out, [&] {
+  {
+    igsParametricFormat parametric(out);
     for (double value : m_u) out.write_double(value);
     for (double value : m_v) out.write_double(value);
-  });
+  }
   for (igsCubicPatch const& patch : m_patches) {
     double x[16], y[16], z[16];
     patch.coefficients(x, y, z);

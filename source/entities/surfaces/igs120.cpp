@@ -30,7 +30,8 @@ int igs120::read_pd_data(igsInStream& in) {
 
 void igs120::write_pd_data(igsOutStream& out) {
   igs_write_fields(out, m_axis, m_generatrix);
-  igs_write_parametric(out, [&] { igs_write_fields(out, m_start, m_end); });
+  igsParametricFormat parametric(out);
+  igs_write_fields(out, m_start, m_end);
 }
 
 void igs120::print_pd_data(utOstream& out) const {

@@ -8,7 +8,7 @@
 #include "entities/curves/igs116.h"
 #include "entities/igsChildCheck.h"
 #include "entities/igsEntityBases.h"
-#include "sections/igsEntityKind.h"
+#include "entities/structure/igs123.h"
 
 #include <array>
 #include <iterator>
@@ -17,7 +17,7 @@
 struct igsAnalyticParameter {
   using Fault = igsObjectError* (*)();
   enum Kind {
-    Reference, // a point or a direction, which must be exactly the class `target` accepts
+    Reference, // a point or a direction, of exactly the class that `target` accepts
     Number,    // a double, which `in_range` accepts
     Agreement  // no parameter: the two numbers before it, which `agree` accepts
   };
@@ -34,12 +34,6 @@ struct igsAnalyticParameter {
 // An error of class E, made for the check to tag.
 template <class E> igsObjectError* igs_make_error() {
   return new (std::nothrow) E;
-}
-
-// A point must be exactly igs116, a direction exactly igs123: tested by the name of its class,
-// which stands with the structure entities.
-inline int igs_is_direction(igsObject const& object) {
-  return igs_record_is(object.objtype(), "igs123");
 }
 
 // The range tests of the numbers.
@@ -93,11 +87,10 @@ class igsAnalyticSurface : public igsChildEntity<Mark> {
 
   // The numbers are parametric values.
   void write_pd_data(igsOutStream& out) override {
-    igs_write_parametric(out, [&] {
-      walk(
-          *this, [&](auto const&, igsObjectPtr const& r) { igs_write_field(out, r); },
-          [&](auto const&, double value) { igs_write_field(out, value); });
-    });
+    igsParametricFormat parametric(out);
+    walk(
+        *this, [&](auto const&, igsObjectPtr const& r) { igs_write_field(out, r); },
+        [&](auto const&, double value) { igs_write_field(out, value); });
   }
 
   void print_pd_data(utOstream& out) const override {
@@ -230,10 +223,10 @@ class igsAnalyticSurface : public igsChildEntity<Mark> {
 // The layouts that both forms of a surface share; form 1 adds its reference direction behind.
 #define IGS_PLANE_SURFACE_LAYOUT(Class, gap)                                                       \
   IGS_ANALYTIC_POINTER(Class, Location, igs_exactly<igs116>, "Location Ptr" gap),                  \
-      IGS_ANALYTIC_POINTER(Class, Direction, igs_is_direction, "Normal Ptr" gap)
+      IGS_ANALYTIC_POINTER(Class, Direction, igs_exactly<igs123>, "Normal Ptr" gap)
 #define IGS_CYLINDER_LAYOUT(Class)                                                                 \
   IGS_ANALYTIC_POINTER(Class, Location, igs_exactly<igs116>, "Location Ptr "),                     \
-      IGS_ANALYTIC_POINTER(Class, Axis, igs_is_direction, "Axis direction Ptr "),                  \
+      IGS_ANALYTIC_POINTER(Class, Axis, igs_exactly<igs123>, "Axis direction Ptr "),               \
       IGS_ANALYTIC_VALUE(Class, Radius, igs_not_negative, "Radius = ")
 #define IGS_CONE_LAYOUT(Class)                                                                     \
   IGS_CYLINDER_LAYOUT(Class), IGS_ANALYTIC_VALUE(Class, SemiAngle, igs_acute_angle, "Semi-angle = ")
@@ -242,17 +235,17 @@ class igsAnalyticSurface : public igsChildEntity<Mark> {
       IGS_ANALYTIC_VALUE(Class, Radius, igs_positive, "Radius = ")
 #define IGS_TORUS_LAYOUT(Class)                                                                    \
   IGS_ANALYTIC_POINTER(Class, Centre, igs_exactly<igs116>, "Centre Ptr "),                         \
-      IGS_ANALYTIC_POINTER(Class, Axis, igs_is_direction, "Axis Ptr "),                            \
+      IGS_ANALYTIC_POINTER(Class, Axis, igs_exactly<igs123>, "Axis Ptr "),                         \
       IGS_ANALYTIC_VALUE(Class, MajorRadius, igs_not_negative, "Major radius = "),                 \
       IGS_ANALYTIC_VALUE(Class, MinorRadius, igs_not_negative, "Minor radius = "),                 \
       IGS_ANALYTIC_AGREEMENT(Class##InvalidRadii, igs_minor_below_major)
 #define IGS_REFERENCE_DIRECTION(Class, label)                                                      \
-  IGS_ANALYTIC_POINTER(Class, Reference, igs_is_direction, label)
+  IGS_ANALYTIC_POINTER(Class, Reference, igs_exactly<igs123>, label)
 
 // Defines, in the class's source, what IGS_ANALYTIC_CLASS declared: the entity's identity (with
 // the Directory Entry checks but the matrix) and the layout of the parameters given.
 #define IGS_ANALYTIC_DEFINE(Class, Mark, type, form, ...)                                          \
-  IGS_ENTITY_DEFINE(Class, Mark, type, form, IGS_DE_ALL & ~IGS_DE_MATRIX)                          \
+  IGS_ENTITY_DEFINE(Class, Mark, type, form, igs_de_without_matrix)                                \
   igsAnalyticLayout const& Class::layout() const {                                                 \
     static igsAnalyticParameter const parameters[] = {__VA_ARGS__};                                \
     static igsAnalyticLayout const layout = {parameters, static_cast<int>(std::size(parameters))}; \

@@ -28,42 +28,38 @@ std::string patches(int count) {
 
 std::string const lowest = "-1.7976931348623157D308"; // the unset double, spelled out
 
-// Every class, on the points, lines, arc and closed curve behind them (DE 37 to 45). No
-// direction class stands yet, so the analytic surfaces name none.
-Family const surfaces = {
-    "surfaces",
-    "surfaces",
-    {
-        {108, 0, "108,0.,0.,1.,5.,0,0.,0.,0.,0.;"},
-        {108, 1, "108,0.,0.,1.,0.,45,1.,1.,0.,2.;"},
-        {108, -1, "108,1.D-15,0.,0.,0.,43,0.,0.,0.,0.;"},
-        {114, 0, "114,3,0,2,1,0.,1.,1.,-1.,1." + patches(6) + ";"},
-        {118, 0, "118,39,41,0,0;"},
-        {118, 1, "118,37,43,1,1;"},
-        // A full turn and half the angle tolerance.
-        {120, 0, "120,39,43,0.,6.2831853076795865;"},
-        {122, 0, "122,43,0.,0.,10.;"},
-        {190, 0, "190,37,0;"},
-        {190, 1, "190,37,0,0;"},
-        {192, 0, "192,37,0,2.5;"},
-        {192, 1, "192,37,0,0.,0;"},
-        {194, 0, "194,37,0,1.,30.;"},
-        {194, 1, "194,37,0,2.,89.9,0;"},
-        {196, 0, "196,37,4.;"},
-        {196, 1, "196,37,4.,0,0;"},
-        {198, 0, "198,37,0,5.,1.;"},
-        {198, 1, "198,37,0,5.,4.999,0;"},
-        {116, 0, "116,0.,0.,0.,0;"},
-        {110, 0, "110,0.,0.,0.,0.,0.,1.;"},
-        {110, 0, "110,1.,0.,0.,1.,1.,0.;"},
-        {100, 0, "100,0.,0.,0.,1.,0.,-1.,0.;"},
-        {106, 63, "106,1,4,0.,0.,0.,1.,0.,1.,1.,0.,0.;"},
-    },
-    {"@17 igs190_0NullDirection", "@19 igs190_1NullDirection", "@19 igs190_1NullReference",
-     "@21 igs192_0NullAxis", "@23 igs192_1NullAxis", "@23 igs192_1NullReference",
-     "@25 igs194_0NullAxis", "@27 igs194_1NullAxis", "@27 igs194_1NullReference",
-     "@31 igs196_1NullAxis", "@31 igs196_1NullReference", "@33 igs198_0NullAxis",
-     "@35 igs198_1NullAxis", "@35 igs198_1NullReference"}};
+// Every class, on the points, lines, arc, closed curve and directions behind them (DE 37 to
+// 49). A direction may have any length, and a reference direction may lie along the axis.
+Family const surfaces = {"surfaces",
+                         "surfaces",
+                         {
+                             {108, 0, "108,0.,0.,1.,5.,0,0.,0.,0.,0.;"},
+                             {108, 1, "108,0.,0.,1.,0.,45,1.,1.,0.,2.;"},
+                             {108, -1, "108,1.D-15,0.,0.,0.,43,0.,0.,0.,0.;"},
+                             {114, 0, "114,3,0,2,1,0.,1.,1.,-1.,1." + patches(6) + ";"},
+                             {118, 0, "118,39,41,0,0;"},
+                             {118, 1, "118,37,43,1,1;"},
+                             // A full turn and half the angle tolerance.
+                             {120, 0, "120,39,43,0.,6.2831853076795865;"},
+                             {122, 0, "122,43,0.,0.,10.;"},
+                             {190, 0, "190,37,47;"},
+                             {190, 1, "190,37,47,49;"},
+                             {192, 0, "192,37,47,2.5;"},
+                             {192, 1, "192,37,47,0.,47;"},
+                             {194, 0, "194,37,49,1.,30.;"},
+                             {194, 1, "194,37,47,2.,89.9,49;"},
+                             {196, 0, "196,37,4.;"},
+                             {196, 1, "196,37,4.,47,49;"},
+                             {198, 0, "198,37,47,5.,1.;"},
+                             {198, 1, "198,37,47,5.,4.999,49;"},
+                             {116, 0, "116,0.,0.,0.,0;"},
+                             {110, 0, "110,0.,0.,0.,0.,0.,1.;"},
+                             {110, 0, "110,1.,0.,0.,1.,1.,0.;"},
+                             {100, 0, "100,0.,0.,0.,1.,0.,-1.,0.;"},
+                             {106, 63, "106,1,4,0.,0.,0.,1.,0.,1.,1.,0.,0.;"},
+                             {123, 0, "123,0.,0.,2.;"},
+                             {123, 0, "123,0.6,0.8,0.;"},
+                         }};
 
 TEST(Surfaces, TheFamilyFile) {
   expect_family(surfaces);
@@ -72,7 +68,7 @@ TEST(Surfaces, TheFamilyFile) {
 // What the damaged entities at DE 1 (and behind it) stand on.
 Record const point = {116, 0, "116,0.,0.,0.,0;"};
 Record const bad_point = {116, 0, "116," + lowest + ",0.,0.,0;"};
-Record const coloured_point = {116, 0, "116,1.,2.,3.,0;", 9}; // colour 9 is none
+Record const coloured_point = {116, 0, "116,1.,2.,3.,0;", 0, 9}; // colour 9 is none
 Record const line = {110, 0, "110,0.,0.,0.,0.,0.,1.;"};
 Record const short_line = {110, 0, "110,1.,1.,1.,1.,1.,1.;"};
 Record const arc = {100, 0, "100,0.,0.,0.,1.,0.,-1.,0.;"};
@@ -81,6 +77,13 @@ Record const no_radius_arc = {100, 0, "100,0.,3.,4.,3.,4.,3.,4.;"};
 Record const point_set = {106, 2, "106,2,2,0.,0.,0.,1.,2.,3.;"};
 Record const plane = {108, 0, "108,0.,0.,1.,0.,0,0.,0.,0.,0.;"};
 Record const direction = {123, 0, "123,0.,0.,1.;"};
+// Surfaces whose point and direction have errors that their own repairs clear.
+Records const coloured_children = {{190, 0, "190,5,7;"},
+                                   {192, 0, "192,5,7,1.;"},
+                                   coloured_point,
+                                   {123, 0, "123,0.,0.,1.;", 0, 9},
+                                   direction,
+                                   {190, 1, "190,5,9,7;"}};
 char const* const no_data_1 = "Warning : There is no Parameter Data associated with object DE 1.\n";
 
 // A damage that no repair touches: check finds the same after clean(0).
@@ -155,6 +158,12 @@ Damage const damages[] = {
      {},
      "",
      "120,3,5,0.,1.;"},
+    {"an inverted full turn is turned round",
+     {{120, 0, "120,3,5,6.283185307179586,0.;"}, line, arc},
+     {"@1 igs120InvalidSweepAngle(sweep=-6.28319)"},
+     {},
+     "",
+     "120,3,5,0.,6.28318530717959;"},
     stays("a sweep of more than a full turn stays", {{120, 0, "120,3,5,0.,7.;"}, line, arc},
           {"@1 igs120InvalidSweepAngle(sweep=7)"}),
     {"a sweep of nothing becomes a full turn",
@@ -182,7 +191,7 @@ Damage const damages[] = {
      {"@1 igs120InvalidAxisData", "@3 igs110InvalidEndPoint"}},
 
     {"a surface whose axis line has no colour of the table is kept once the line is repaired",
-     {{120, 0, "120,3,5,0.,1.;"}, {110, 0, "110,0.,0.,0.,0.,0.,1.;", 9}, arc},
+     {{120, 0, "120,3,5,0.,1.;"}, {110, 0, "110,0.,0.,0.,0.,0.,1.;", 0, 9}, arc},
      {"@1 igs120InvalidAxisData", "@3 igsDEInvalidColour"},
      {}},
 
@@ -226,7 +235,7 @@ Damage const damages[] = {
            "@1 igs114UnsetVBreakpoint(index=1)",
            "@1 igs114VBreakpointOutOfSequence(index=1,value=-1.79769e+308,previous=1)"}),
 
-    // Analytic surfaces. No direction class stands yet: a direction reads as missing.
+    // Analytic surfaces.
     stays("analytic surfaces whose numbers are out of range or at their edges",
           {{192, 0, "192,17,19,-1.;"},
            {194, 0, "194,17,19,1.,90.;"},
@@ -238,12 +247,9 @@ Damage const damages[] = {
            {192, 1, "192,17,19,0.,19;"},
            point,
            direction},
-          {"@1 igs192_0InvalidRadius", "@1 igs192_0NullAxis", "@11 igs198_1InvalidMajorRadius",
-           "@11 igs198_1NullAxis", "@11 igs198_1NullReference", "@13 igs196_1InvalidRadius",
-           "@13 igs196_1NullAxis", "@13 igs196_1NullReference", "@15 igs192_1NullAxis",
-           "@15 igs192_1NullReference", "@3 igs194_0InvalidSemiAngle", "@3 igs194_0NullAxis",
-           "@5 igs194_1InvalidSemiAngle", "@5 igs194_1NullAxis", "@5 igs194_1NullReference",
-           "@7 igs196_0InvalidRadius", "@9 igs198_0InvalidRadii", "@9 igs198_0NullAxis"}),
+          {"@1 igs192_0InvalidRadius", "@11 igs198_1InvalidMajorRadius",
+           "@13 igs196_1InvalidRadius", "@3 igs194_0InvalidSemiAngle",
+           "@5 igs194_1InvalidSemiAngle", "@7 igs196_0InvalidRadius", "@9 igs198_0InvalidRadii"}),
     stays("analytic surfaces whose unset numbers are not tested further",
           {{192, 1, "192,9,11," + lowest + ",11;"},
            {194, 0, "194,9,11,-1.," + lowest + ";"},
@@ -251,47 +257,49 @@ Damage const damages[] = {
            {196, 0, "196,9," + lowest + ";"},
            point,
            direction},
-          {"@1 igs192_1NoRadiusDefined", "@1 igs192_1NullAxis", "@1 igs192_1NullReference",
-           "@3 igs194_0InvalidRadius", "@3 igs194_0NoSemiAngleDefined", "@3 igs194_0NullAxis",
-           "@5 igs198_0NoMinorRadiusDefined", "@5 igs198_0NullAxis", "@7 igs196_0NoRadiusDefined"}),
-    stays("analytic surfaces whose references are missing, of the wrong class or fail their checks",
+          {"@1 igs192_1NoRadiusDefined", "@3 igs194_0InvalidRadius",
+           "@3 igs194_0NoSemiAngleDefined", "@5 igs198_0NoMinorRadiusDefined",
+           "@7 igs196_0NoRadiusDefined"}),
+    stays("analytic surfaces whose references are missing, of the wrong class or fail their "
+          "checks",
           {{190, 0, "190,0,11;"},
            {190, 1, "190,13,13,15;"},
            {194, 1, "194,11,15,1.,45.,11;"},
            {198, 1, "198,0,0,2.,1.,0;"},
-           {196, 1, "196,15,1.,0,0;"},
+           {196, 1, "196,17,1.,19,17;"},
            point,
            bad_point,
-           line},
+           line,
+           direction,
+           {123, 0, "123," + lowest + ",0.,0.;"}},
           {"@1 igs190_0NullLocation", "@1 igs190_0WrongDirectionType", "@13 igs116InvalidPoint",
-           "@3 igs190_1InvalidDirection", "@3 igs190_1InvalidLocation",
+           "@19 igs123NoConstruct", "@3 igs190_1InvalidDirection", "@3 igs190_1InvalidLocation",
            "@3 igs190_1WrongDirectionType", "@3 igs190_1WrongReferenceType",
            "@5 igs194_1WrongAxisType", "@5 igs194_1WrongReferenceType", "@7 igs198_1NullAxis",
-           "@7 igs198_1NullCentre", "@7 igs198_1NullReference", "@9 igs196_1NullAxis",
-           "@9 igs196_1NullReference", "@9 igs196_1WrongCentreType"}),
-    {"analytic surfaces whose point has no colour of the table",
-     {{190, 0, "190,5,7;"}, {192, 0, "192,5,7,1.;"}, coloured_point, direction},
-     {"@1 igs190_0InvalidLocation", "@1 igs190_0NullDirection", "@3 igs192_0InvalidLocation",
-      "@3 igs192_0NullAxis", "@5 igsDEInvalidColour"},
-     {"@1 igs190_0NullDirection", "@3 igs192_0NullAxis"}},
+           "@7 igs198_1NullCentre", "@7 igs198_1NullReference", "@9 igs196_1InvalidAxis",
+           "@9 igs196_1WrongCentreType"}),
+    {"analytic surfaces whose point and direction have no colour of the table",
+     coloured_children,
+     {"@1 igs190_0InvalidDirection", "@1 igs190_0InvalidLocation", "@11 igs190_1InvalidLocation",
+      "@11 igs190_1InvalidReference", "@3 igs192_0InvalidAxis", "@3 igs192_0InvalidLocation",
+      "@5 igsDEInvalidColour", "@7 igsDEInvalidColour"},
+     {}},
 };
 
 TEST(Surfaces, EveryDamageIsFoundAndWhatCanBeRepairedIs) {
   for (Damage const& damage : damages) expect_damage(damage);
 }
 
-// The repairs of the point come first; they settle the error of the plane surface that names
-// it, and not that of the cylinder.
+// The repairs of the point and the direction come first; they settle the errors of the plane
+// surfaces that name them, and not those of the cylinder.
 TEST(Surfaces, OnlyAPlaneSurfaceIsClearedByItsChildsRepairs) {
   int result = 0;
-  auto file = igs_test::read_text(
-      file_text({{190, 0, "190,5,7;"}, {192, 0, "192,5,7,1.;"}, coloured_point, direction}),
-      result);
+  auto file = igs_test::read_text(file_text(coloured_children), result);
   igsCurrentFileScope current(*file);
   file->clean(0);
-  // Beside the missing direction.
-  EXPECT_EQ(igsObjectPtr(1)->num_logged_errors(), 1);
+  EXPECT_EQ(igsObjectPtr(1)->num_logged_errors(), 0);
   EXPECT_EQ(igsObjectPtr(3)->num_logged_errors(), 2);
+  EXPECT_EQ(igsObjectPtr(11)->num_logged_errors(), 0);
 }
 
 // Built through their setters, the classes write what a file of them reads; what a setter
@@ -312,7 +320,14 @@ TEST_F(SurfaceSetters, PlanesAndSweptSurfaces) {
   EXPECT_EQ(checked(*plane), (std::vector<std::string>{"igs108AllCoeffsTooSmall",
                                                        "igs108NegativeSymbolSize(size=-1)"}));
   EXPECT_EQ(written(*plane), records({"108,0.,0.,1.D-300,5.,0,1.,2.,3.,-1.;"}));
-  // The repair of a plane gone from its number does nothing.
+  // A bounded plane without its curve is made unbounded, and the error settled; the repair of
+  // a plane gone from its number does nothing.
+  igs_entity_test::Access::set_form(*plane, 1);
+  EXPECT_EQ(checked(*plane), (std::vector<std::string>{"igs108AllCoeffsTooSmall",
+                                                       "igs108NegativeSymbolSize(size=-1)",
+                                                       "igs108NullBoundaryCurvePtr"}));
+  EXPECT_EQ(fix(plane->de_number(), igs108NullBoundaryCurvePtr::type()), 1);
+  EXPECT_EQ(plane->directory_entry().form_number(), 0);
   auto* stale = new igs108NullBoundaryCurvePtr;
   stale->set_key(plane->de_number() + 2);
   EXPECT_EQ(stale->fix(), 0);
@@ -384,6 +399,17 @@ TEST_F(SurfaceSetters, SplineSurfaces) {
   EXPECT_EQ(errors[0], "igs114InvalidPatch(u=0,v=0)");
   EXPECT_EQ(errors.back(),
             "igs114VBreakpointOutOfSequence(index=2,value=-1.79769e+308,previous=5)");
+}
+
+// Types out of their ranges print as unknown.
+TEST(Surfaces, SplineSurfaceTypesOutOfRange) {
+  int result = 0;
+  auto file = igs_test::read_text(
+      file_text({{114, 0, "114,7,2,1,1,0.,1.,0.,1." + patches(4) + ";"}}), result);
+  igsCurrentFileScope current(*file);
+  std::string text = igs_entity_test::EntityTest::printed(*igsObjectPtr(1));
+  EXPECT_NE(text.find("SplineType = 7(Unknown)\nPatchType = 2(Unknown)\n"), std::string::npos)
+      << text;
 }
 
 TEST_F(SurfaceSetters, AnalyticSurfaces) {
