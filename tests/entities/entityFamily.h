@@ -99,12 +99,14 @@ inline CorpusRow const* corpus_row(kvuTypeInfo const& type) {
 }
 
 // One entity of a test file: type, form and the whole parameter record, which the file cuts
-// into P lines behind its delimiters, and the DE number of its transformation matrix.
+// into P lines behind its delimiters, and the DE number of its transformation matrix and its
+// colour number.
 struct Record {
   int type;
   int form;
   std::string data;
   int matrix = 0;
+  int colour = 0;
 };
 using Records = std::vector<Record>;
 
