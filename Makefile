@@ -77,7 +77,7 @@ coverage-tests:
 	  ctest --test-dir $(COVERAGE_TESTS_BUILD) -j $(JOBS) --output-on-failure
 	llvm-profdata-14 merge -o $(COVERAGE_TESTS_BUILD)/tests.profdata $(COVERAGE_TESTS_BUILD)/profiles/*.profraw
 	objects=$$(find $(COVERAGE_TESTS_BUILD)/tests $(COVERAGE_TESTS_BUILD)/tools -type f -perm -u+x \
-	  -name 'igs*' | sed 's/^/-object /'); \
+	  -name 'igs*' | sed '2,$$s/^/-object /'); \
 	llvm-cov-14 export -format=lcov -instr-profile=$(COVERAGE_TESTS_BUILD)/tests.profdata $$objects \
 	  $(CURDIR)/source > $(COVERAGE_TESTS_BUILD)/tests.lcov; \
 	llvm-cov-14 report -instr-profile=$(COVERAGE_TESTS_BUILD)/tests.profdata $$objects \

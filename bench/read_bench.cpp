@@ -20,6 +20,7 @@
 #include <new>
 #include <sstream>
 #include <string>
+#include <vector>
 
 // Live and peak heap bytes of the whole program, while counting is on. The timed reads run
 // with it off, so that they do not pay for the count.
@@ -205,8 +206,8 @@ igsFile* read_file(std::string const& text) {
   return nullptr;
 }
 
-void BM_ReadFile(benchmark::State& state) {
-  Generated const& g = file_text();
+// Reads the generated file in each iteration beside the floor, and gives the counters.
+void measure_read(benchmark::State& state, Generated const& g) {
   // One untimed read with the heap counted: its peak, and the pages the heap grows into
   // touched once before the timed reads.
   std::size_t before = heap::live;
@@ -245,6 +246,241 @@ void BM_ReadFile(benchmark::State& state) {
   state.counters["file_MB"] = static_cast<double>(g.text.size()) / 1e6;
   state.counters["entities"] = entities;
 }
+
+void BM_ReadFile(benchmark::State& state) {
+  measure_read(state, file_text());
+}
 BENCHMARK(BM_ReadFile)->Unit(benchmark::kMillisecond)->Iterations(3);
+
+// ---- Boundary representation: solids of six faces over their loops, edge and vertex lists.
+// Each solid is a box: a shell of six faces, one loop of four edges each, one edge list of
+// twelve edges on their lines, one vertex list of eight corners. No surface class stands yet,
+// so the faces name none.
+
+// The records of a file, each given as its type, form and parameters, numbered in order.
+struct RecordText {
+  std::string d, p;
+  int entities = 0;
+  int p_line = 0;
+  static std::string line(std::string data, char letter, int number_) {
+    data.resize(72, ' ');
+    return data + letter + number(number_, 7) + "\n";
+  }
+  // The DE number of the record; `matrix` is the DE number of its transformation matrix.
+  int add(int type, int form, std::string fields, int matrix = 0) {
+    int de = 2 * entities + 1;
+    int first = p_line + 1;
+    fields = std::to_string(type) + fields + ";";
+    while (!fields.empty()) {
+      size_t cut = fields.size() <= 64 ? fields.size() : fields.rfind(',', 63) + 1;
+      std::string data = fields.substr(0, cut);
+      fields.erase(0, cut);
+      data.resize(64, ' ');
+      p += line(data + " " + number(de, 7), 'P', ++p_line);
+    }
+    d += line(number(type, 8) + number(first, 8) + "       0       0       0       0" +
+                  number(matrix, 8) + "       000000000",
+              'D', de);
+    d +=
+        line(number(type, 8) + "       0       0" + number(p_line - first + 1, 8) + number(form, 8),
+             'D', de + 1);
+    ++entities;
+    return de;
+  }
+  Generated text() const {
+    Generated g;
+    g.entities = entities;
+    g.text = line("Generated for the reading benchmark.", 'S', 1);
+    g.text +=
+        line("1H,,1H;,4HBNCH,8Hbench.igs,3HGEN,3H1.0,32,38,6,308,15,4HBNCH,1.,2,2HMM,1,", 'G', 1);
+    g.text += line("1.,15H20240101.000000,1.E-06,1000.,4HNONE,4HNONE,11,0;", 'G', 2);
+    g.text += d + p;
+    g.text += line("S" + number(1, 7) + "G" + number(2, 7) + "D" + number(2 * entities, 7) + "P" +
+                       number(p_line, 7),
+                   'T', 1);
+    return g;
+  }
+};
+
+Generated generate_solids(std::size_t at_least) {
+  RecordText file;
+  Reals reals;
+  // The corners of a box, the edges between them and the faces over four edges each.
+  static int const ends[12][2] = {{0, 1}, {1, 2}, {2, 3}, {3, 0}, {4, 5}, {5, 6},
+                                  {6, 7}, {7, 4}, {0, 4}, {1, 5}, {2, 6}, {3, 7}};
+  static int const faces[6][4] = {{0, 1, 2, 3},  {4, 5, 6, 7},   {0, 9, 4, 8},
+                                  {1, 10, 5, 9}, {2, 11, 6, 10}, {3, 8, 7, 11}};
+  auto de_of = [&](int k) { return 2 * (file.entities + k) + 1; };
+  while (file.d.size() + file.p.size() < at_least) {
+    // In file order: solid, shell, six faces, six loops, edge list, vertex list, twelve lines.
+    int shell = de_of(1), face = de_of(2), loop = de_of(8), edges = de_of(14);
+    int vertices = de_of(15), line = de_of(16);
+    file.add(186, 0, "," + std::to_string(shell) + ",1,0");
+    std::string list = "," + std::to_string(6);
+    for (int f = 0; f < 6; ++f) list += "," + std::to_string(face + 2 * f) + ",1";
+    file.add(514, 1, list);
+    for (int f = 0; f < 6; ++f) file.add(510, 1, ",0,1,1," + std::to_string(loop + 2 * f));
+    for (auto const& f : faces) {
+      std::string oriented = ",4";
+      for (int e : f)
+        oriented += ",0," + std::to_string(edges) + "," + std::to_string(e + 1) + ",1,1,0," +
+                    std::to_string(line + 2 * e);
+      file.add(508, 1, oriented);
+    }
+    std::string edge_list = ",12";
+    for (int e = 0; e < 12; ++e)
+      edge_list += "," + std::to_string(line + 2 * e) + "," + std::to_string(vertices) + "," +
+                   std::to_string(ends[e][0] + 1) + "," + std::to_string(vertices) + "," +
+                   std::to_string(ends[e][1] + 1);
+    file.add(504, 1, edge_list);
+    std::string corners = ",8";
+    for (int v = 0; v < 24; ++v) corners += "," + reals.next();
+    file.add(502, 1, corners);
+    for (int e = 0; e < 12; ++e) {
+      std::string points;
+      for (int c = 0; c < 6; ++c) points += "," + reals.next();
+      file.add(110, 0, points);
+    }
+  }
+  return file.text();
+}
+
+void BM_ReadSolids(benchmark::State& state) {
+  static Generated const g = generate_solids(50u << 20);
+  measure_read(state, g);
+}
+BENCHMARK(BM_ReadSolids)->Unit(benchmark::kMillisecond)->Iterations(3);
+// ---- End of the boundary representation.
+
+// ---- Structure: transformation matrices, directions, groups, views, drawings and subfigures.
+// A file in units of 17 entities: a matrix, a direction, eight points placed by the matrix, an
+// unordered group of the points, a planar group of four of them with the matrix, a view, a
+// drawing of the view and four points, a subfigure definition of the points and an instance
+// of it, and an ordered group of the two groups.
+Generated generate_structure(std::size_t at_least) {
+  RecordText file;
+  Reals reals;
+  auto list = [](std::vector<int> const& members) {
+    std::string text = "," + std::to_string(members.size());
+    for (int m : members) text += "," + std::to_string(m);
+    return text;
+  };
+  for (int view_number = 1; file.d.size() + file.p.size() < at_least; ++view_number) {
+    int matrix = file.add(124, 0,
+                          ",0.,-1.,0.," + reals.next() + ",1.,0.,0.," + reals.next() +
+                              ",0.,0.,1.," + reals.next());
+    file.add(123, 0, ",0.6,0.,0.8");
+    std::vector<int> points;
+    for (int i = 0; i < 8; ++i)
+      points.push_back(file.add(
+          116, 0, "," + reals.next() + "," + reals.next() + "," + reals.next() + ",0", matrix));
+    int group = file.add(402, 7, list(points));
+    int planar = file.add(402, 16,
+                          ",1,4," + std::to_string(matrix) +
+                              list({points[0], points[1], points[2], points[3]}).substr(2));
+    int view = file.add(410, 0, "," + std::to_string(view_number) + ",1.,0,0,0,0,0,0");
+    file.add(404, 0,
+             ",1," + std::to_string(view) + ",0.,0." +
+                 list({points[4], points[5], points[6], points[7]}));
+    int definition = file.add(308, 0, ",0,4HPART" + list(points));
+    file.add(408, 0,
+             "," + std::to_string(definition) + "," + reals.next() + "," + reals.next() + ",0.,1.");
+    file.add(402, 15, list({group, planar}));
+  }
+  return file.text();
+}
+
+void BM_ReadStructureFile(benchmark::State& state) {
+  static Generated const g = generate_structure(20u << 20);
+  measure_read(state, g);
+}
+BENCHMARK(BM_ReadStructureFile)->Unit(benchmark::kMillisecond)->Iterations(3);
+// ---- End of the structure entities.
+
+// ---- B-spline curves: rational B-spline curves as CAD systems write them, cubic, of 4 to 19
+// control points over clamped knots, now polynomial (weights of 1.) and now rational, with
+// reals of about a dozen digits, which make nearly all of such a file.
+Generated generate_bspline_curves(std::size_t at_least) {
+  RecordText file;
+  Reals reals;
+  // Strings are appended, not joined with +: a literal + a string trips a false -Wrestrict of
+  // g++ 12 at -O2.
+  auto real = [](double value) {
+    char text[32];
+    std::snprintf(text, sizeof text, ",%.12g", value);
+    return std::string(text);
+  };
+  for (int index = 0; file.d.size() + file.p.size() < at_least; ++index) {
+    int const degree = 3;
+    int const points = 4 + index % 16;
+    bool const rational = index % 4 == 3;
+    std::string fields(",");
+    fields.append(std::to_string(points - 1)).append(",").append(std::to_string(degree));
+    fields.append(rational ? ",0,0,0,0" : ",0,0,1,0");
+    int const spans = points - degree;
+    for (int i = 0; i <= degree; ++i) fields.append(",0.");
+    for (int i = 1; i < spans; ++i) fields.append(real(static_cast<double>(i) / spans));
+    for (int i = 0; i <= degree; ++i) fields.append(",1.");
+    for (int i = 0; i < points; ++i)
+      fields.append(rational && i % 3 ? real(0.5 + i % 3 * 0.25) : ",1.");
+    for (int i = 0; i < 3 * points; ++i) fields.append(",").append(reals.next());
+    fields.append(",0.,1.,0.,0.,0.");
+    file.add(126, 0, fields);
+  }
+  return file.text();
+}
+
+void BM_ReadBsplineCurves(benchmark::State& state) {
+  static Generated const g = generate_bspline_curves(50u << 20);
+  measure_read(state, g);
+}
+BENCHMARK(BM_ReadBsplineCurves)->Unit(benchmark::kMillisecond)->Iterations(3);
+// ---- End of the B-spline curves.
+
+// ---- Surfaces: planes, spline, swept and analytic surfaces on their points, lines and arcs.
+// Each unit holds a point, two directions, a line and an arc; a bounded plane on the arc; a
+// ruled surface, a surface of revolution and a tabulated cylinder on the line and the arc; a
+// plane surface, cylinder, cone, sphere and torus in their parameterised form on the point and
+// the directions; and a spline surface of two by two patches.
+
+Generated generate_surfaces(std::size_t at_least) {
+  RecordText file;
+  Reals reals;
+  auto values = [&](int count) {
+    std::string text;
+    for (int i = 0; i < count; ++i) {
+      text += ',';
+      text += reals.next();
+    }
+    return text;
+  };
+  // A pointer field to the DE number.
+  auto to = [](int de) { return std::string(",").append(std::to_string(de)); };
+  while (file.d.size() + file.p.size() < at_least) {
+    std::string point = to(file.add(116, 0, values(3) + ",0"));
+    std::string axis = to(file.add(123, 0, ",0.,0.,1."));
+    std::string reference = to(file.add(123, 0, ",1.,0.,0."));
+    std::string line = to(file.add(110, 0, values(6)));
+    std::string arc = to(file.add(100, 0, ",0.,0.,0.,1.,0.,-1.,0."));
+    file.add(108, 1, ",0.,0.,1.," + reals.next() + arc + values(3) + ",1.");
+    file.add(118, 0, line + arc + ",0,0");
+    file.add(120, 0, line + arc + ",0.,3.14159265358979");
+    file.add(122, 0, arc + values(3));
+    file.add(190, 1, point + axis + reference);
+    file.add(192, 1, point + axis + ",2.5" + reference);
+    file.add(194, 1, point + axis + ",2.5,30." + reference);
+    file.add(196, 1, point + ",4." + axis + reference);
+    file.add(198, 1, point + axis + ",5.,1." + reference);
+    file.add(114, 0, ",3,1,1,1,0.,1.,0.,1." + values(4 * 48));
+  }
+  return file.text();
+}
+
+void BM_ReadSurfaces(benchmark::State& state) {
+  static Generated const g = generate_surfaces(50u << 20);
+  measure_read(state, g);
+}
+BENCHMARK(BM_ReadSurfaces)->Unit(benchmark::kMillisecond)->Iterations(3);
+// ---- End of the surfaces.
 
 } // namespace

@@ -23,6 +23,7 @@
 #include <algorithm>
 #include <chrono>
 #include <cstdio>
+#include <cstdlib>
 #include <cstring>
 #include <filesystem>
 #include <fstream>
@@ -390,6 +391,9 @@ int command_stats(Options const& o) {
     std::snprintf(line, sizeof line, "%8d  %4d %-4d ", count, key.first, key.second);
     std::cout << line << text(igsInfoDB::entity_form_name(key.first, key.second)) << "\n";
   }
+  // The model is not taken apart: main ends the process at once, which frees it whole, where
+  // deleting it entity by entity would cost a third of the time of reading it.
+  (void)file.release();
   return 0;
 }
 
@@ -411,5 +415,10 @@ int main(int argc, char** argv) {
   if (options.command == "check") return command_check(options);
   if (options.command == "repair") return command_repair(options);
   if (options.command == "print") return command_print(options);
-  return command_stats(options);
+  // stats only reads: the process ends without taking the model apart entity by entity, which
+  // would cost a third of the reading; the system takes the memory back at once.
+  int code = command_stats(options);
+  std::cout.flush();
+  std::fflush(nullptr);
+  std::_Exit(code);
 }

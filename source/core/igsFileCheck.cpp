@@ -4,7 +4,7 @@
 #include "core/igsFile.h"
 #include "core/igsObject.h"
 #include "core/igsObjectSystem.h"
-#include "entities/structure/igs410_0ViewNumber.h"
+#include "entities/structure/igs410_0.h"
 #include "errors/igsFixer.h"
 
 #include <climits>
@@ -58,23 +58,22 @@ void igsFile::check_inter_entity_errors() const {
 }
 
 void igsFile::check_the_410_view_numbers() const {
-  igsViewNumbering const* numbering = igsViewNumbering::installed();
-  if (!numbering) return;
-  kvuTypeInfo const& view_type = numbering->view_type();
-
+  auto number_of = [](igsObject const* view) {
+    return static_cast<igs410_0 const*>(view)->view_number();
+  };
   int largest = 0;
-  for (igsFileTypeIT it(this, view_type); ++it;)
-    if (int number = numbering->view_number(*it()); number > largest) largest = number;
+  for (igsFileTypeIT it(this, igs410_0::type()); ++it;)
+    if (int number = number_of(it()); number > largest) largest = number;
   igsViewNumberProposer proposer(largest);
-  for (igsFileTypeIT it(this, view_type); ++it;)
-    if (int number = numbering->view_number(*it()); number >= 0) proposer.in_use(number);
+  for (igsFileTypeIT it(this, igs410_0::type()); ++it;)
+    if (int number = number_of(it()); number >= 0) proposer.in_use(number);
 
   intcoSet seen;
-  for (igsFileTypeIT it(this, view_type); ++it;) {
+  for (igsFileTypeIT it(this, igs410_0::type()); ++it;) {
     igsObject* view = it();
-    int number = numbering->view_number(*view);
+    int number = number_of(view);
     igsObjectError* error = nullptr;
-    if (number == igsViewNumbering::unset_number)
+    if (igs_unset(number))
       error = new (std::nothrow) igs410_0NoViewNumberDefined(proposer.next());
     else if (number < 0)
       error = new (std::nothrow) igs410_0InvalidViewNumber(proposer.next());

@@ -6,13 +6,13 @@
 #include "core/igsFactory.h"
 #include "core/igsObject.h"
 #include "core/igsObjectPtr.h"
+#include "core/igsUnset.h"
 #include "input/igsInStream.h"
 #include "output/igsOutStream.h"
 #include "sections/igsDECheck.h"
 #include "sections/igsDirectoryEntry.h"
 #include "support/coResource.h"
 #include "support/giGeometry.h"
-#include "core/igsUnset.h"
 #include "support/utOstream.h"
 
 #include <type_traits>
@@ -25,6 +25,24 @@ template <class Value> int igs_set_valid(Value& field, Value const& value) {
   return 1;
 }
 
+// The rule of the setters of references that must be there: a null one leaves the field as it
+// was and gives 0.
+inline int igs_set_reference(igsObjectPtr& field, igsObjectPtr const& reference) {
+  if (!reference) return 0;
+  field = reference;
+  return 1;
+}
+
+// A flag of 0 or 1, compared as unsigned so that a negative value fails too.
+inline int igs_flag_valid(int flag) {
+  return static_cast<unsigned>(flag) <= 1u;
+}
+
+// "One" for 1, "zero" for 0, "other" for anything else.
+inline char const* igs_flag_word(int flag, char const* one, char const* zero, char const* other) {
+  return flag == 1 ? one : flag == 0 ? zero : other;
+}
+
 // The most elements that a count read from a file reserves at once. A larger count (often a
 // damaged one) reserves this much and lets the array grow while the data last, so a wild
 // number costs no wild allocation.
@@ -34,6 +52,19 @@ inline constexpr int igs_max_initial_reserve = 1 << 16;
 // allocation failed.
 template <class Array> int igs_reserve(Array& array, int count) {
   return array.reserve(count < igs_max_initial_reserve ? count : igs_max_initial_reserve);
+}
+
+// Reads the members of a list that follow its count: up to `count` of them, each given by
+// `read_one()`, appended in order in place of what the list held. A record that ends early
+// gives the members it holds, so that a damaged count costs neither time nor memory. 0 when
+// the list could not grow.
+template <class List, class ReadOne>
+int igs_read_members(igsInStream& in, int count, List& list, ReadOne const& read_one) {
+  list.clear();
+  if (count > 0 && !igs_reserve(list, count)) return 0;
+  for (int i = 0; i < count && !in.frozen(); ++i)
+    if (!list.append(read_one())) return 0;
+  return 1;
 }
 
 // One field each. The stream gives 0 for a defaulted field; a point or vector is made of its
@@ -94,6 +125,22 @@ inline void igs_write_field(igsOutStream& out, igsObjectPtr const& reference) {
 template <class... Field> void igs_write_fields(igsOutStream& out, Field const&... fields) {
   (igs_write_field(out, fields), ...);
 }
+
+// Writes the reals of the stream with the parametric precision while it stands: knots, angles
+// and the other values that are no coordinates.
+class igsParametricFormat {
+ public:
+  explicit igsParametricFormat(igsOutStream& out) : m_out(out) {
+    m_out.push_double_format(kvnOptDoubleFieldWidth.value(),
+                             kvnOptDoubleParametricPrecision.value());
+  }
+  ~igsParametricFormat() { m_out.pop_double_format(); }
+  igsParametricFormat(igsParametricFormat const&) = delete;
+  igsParametricFormat& operator=(igsParametricFormat const&) = delete;
+
+ private:
+  igsOutStream& m_out;
+};
 
 // "Label = {", then on a nested stream the referenced entity or "(NullPointer)", then "}".
 void igs_print_reference(utOstream& out, char const* label, igsObjectPtr const& reference);

@@ -13,6 +13,7 @@ KVU_DEFINE_TYPE(igsGlobalError, igsError)
 KVU_DEFINE_TYPE(igsStartError, igsError)
 KVU_DEFINE_TYPE(igsTerminateError, igsError)
 KVU_DEFINE_TYPE(igsCompoundEntityError, igsObjectError)
+KVU_DEFINE_TYPE(igs404ViewError, igsObjectError)
 
 igsError::~igsError() {
   leave_log();

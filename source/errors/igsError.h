@@ -149,21 +149,43 @@ class igsTerminateError : public igsSectionError<igsTerminateSection> {
   igsTerminateError();
 };
 
-// A bad member of a compound entity (group, subfigure, view list). The index is the member's
-// position as read. Resolving the member and dropping bad ones needs the compound entity
-// class, which arrives with the groups; until then `obj` and `fix` are those of
-// igsObjectError.
-class igsCompoundEntityError : public igsObjectError {
-  KVU_DECLARE_TYPE()
+// An error about one member of an entity's list, which it names by the member's position as
+// read (the index list of the entity says where the member is now).
+class igsMemberError : public igsObjectError {
  public:
   int index() const { return m_index; }
 
  protected:
-  igsCompoundEntityError() = default;
-  explicit igsCompoundEntityError(int index) : m_index(index) {}
+  igsMemberError() = default;
+  explicit igsMemberError(int index) : m_index(index) {}
   void set_index(int index) { m_index = index; }
 
  private:
   friend struct igsErrorBinder;
   int m_index = -1;
+};
+
+// A bad member of a compound entity (group, subfigure, drawing). `obj` names the member, so
+// that its repairs come first; `fix` drops the members that are null or still have logged
+// errors, once this is the last such error of the compound (entities/structure/igsCompound.cpp).
+class igsCompoundEntityError : public igsMemberError {
+  KVU_DECLARE_TYPE()
+ public:
+  int fix() override;
+  int obj() override;
+
+ protected:
+  using igsMemberError::igsMemberError;
+};
+
+// A bad view of a drawing's view list: the same as a compound entity error, on the views
+// (entities/structure/igs404.cpp).
+class igs404ViewError : public igsMemberError {
+  KVU_DECLARE_TYPE()
+ public:
+  int fix() override;
+  int obj() override;
+
+ protected:
+  using igsMemberError::igsMemberError;
 };

@@ -20,7 +20,7 @@
 // The table undefines IGS_ERROR at its end. Each generated class has a public constructor
 // taking the arguments in row order, a const accessor per argument, `arguments()`, and
 // `visit_arguments`. A structure error takes its key from its first int argument, a compound
-// entity error its member index.
+// entity error and a drawing's view error (igsMemberError) their member index.
 #pragma once
 
 #include "errors/igsError.h"
@@ -55,8 +55,8 @@ struct igsErrorBinder {
   template <class... T> static void bind(igsStructureError& e, T const&... values) {
     first_int(e, &igsIndexedError::set_key, values...);
   }
-  template <class... T> static void bind(igsCompoundEntityError& e, T const&... values) {
-    first_int(e, &igsCompoundEntityError::set_index, values...);
+  template <class... T> static void bind(igsMemberError& e, T const&... values) {
+    first_int(e, &igsMemberError::set_index, values...);
   }
 
  private:

@@ -2,6 +2,8 @@
 
 #include "support/utTypes.h"
 
+#include <utility>
+
 // The slot of the array at position, or null when the position lies outside it.
 static igsError* slot(igsErrorcoDynArr const& array, int position) {
   return position >= 0 && position < array.size() ? array[position] : nullptr;
@@ -93,15 +95,21 @@ void igsIndexedSectionLog::update_log() {
   for (igsError*& pending : m_pending)
     if (igsError* e = pending) {
       pending = nullptr;
-      ++m_counts[key_of(e)];
-      igsSimpleSectionLog::receive_error(e);
+      if (igsSimpleSectionLog::receive_error(e)) m_by_key[key_of(e)].append(e);
     }
   m_pending.clear();
 }
 
-void igsIndexedSectionLog::uncount(int key) {
-  int* count = m_counts.read(key);
-  if (count && --*count <= 0) m_counts.remove(key);
+void igsIndexedSectionLog::uncount(igsError* e) {
+  int const key = key_of(e);
+  igsErrorcoDynArr* errors = m_by_key.read(key);
+  if (!errors) return;
+  for (int i = errors->size() - 1; i >= 0; --i)
+    if ((*errors)[i] == e) {
+      errors->remove(i);
+      break;
+    }
+  if (errors->empty()) m_by_key.remove(key);
 }
 
 void igsIndexedSectionLog::delete_error(igsError* e) {
@@ -110,7 +118,7 @@ void igsIndexedSectionLog::delete_error(igsError* e) {
   if (slot(m_pending, position) == e) {
     m_pending[position] = nullptr;
   } else if (take_active(e)) {
-    uncount(key_of(e));
+    uncount(e);
   } else {
     igsSimpleSectionLog::delete_error(e);
   }
@@ -119,7 +127,7 @@ void igsIndexedSectionLog::delete_error(igsError* e) {
 int igsIndexedSectionLog::mark_as_fixed(igsError* e) {
   update_log();
   if (!igsSimpleSectionLog::mark_as_fixed(e)) return 0;
-  uncount(key_of(e));
+  uncount(e);
   return 1;
 }
 
@@ -130,27 +138,26 @@ int igsIndexedSectionLog::num_errors() {
 
 int igsIndexedSectionLog::num_errors(int key) {
   update_log();
-  int const* count = m_counts.read(key);
-  return count ? *count : 0;
+  igsErrorcoDynArr const* errors = m_by_key.read(key);
+  return errors ? errors->size() : 0;
 }
 
 void igsIndexedSectionLog::clear() {
   update_log();
   igsSimpleSectionLog::clear();
-  m_counts.clear();
+  m_by_key.clear();
 }
 
 void igsIndexedSectionLog::clear(int key) {
   update_log();
-  if (!m_counts.member(key)) return; // the common case: an entity with no errors
-  for (int i = 0; i < active().size(); ++i) {
-    igsError* e = active()[i];
-    if (e && key_of(e) == key) {
-      take_active(e);
-      discard(e);
-    }
+  igsErrorcoDynArr* held = m_by_key.read(key);
+  if (!held) return; // the common case: an entity with no errors
+  igsErrorcoDynArr errors = std::move(*held);
+  m_by_key.remove(key);
+  for (igsError* e : errors) {
+    take_active(e);
+    discard(e);
   }
-  m_counts.remove(key);
 }
 
 void igsIndexedSectionLog::print() {

@@ -58,13 +58,14 @@ class igsSimpleSectionLog {
   igsErrorcoDynArr m_fixed;
 };
 
-// Keeps indexed errors (object and structure errors) with a count per key. A new error is not
-// filed at once: it arrives from its base constructor, before it has a key, and waits among
-// the pending until the next operation that reads the active errors or the counts.
+// Keeps indexed errors (object and structure errors) with the active errors of each key, so
+// that counting and clearing one key costs what that key holds, not the whole log. A new error
+// is not filed at once: it arrives from its base constructor, before it has a key, and waits
+// among the pending until the next operation that reads the active errors or the counts.
 class igsIndexedSectionLog : public igsSimpleSectionLog {
  public:
   explicit igsIndexedSectionLog(kvuTypeInfo const& type)
-      : igsSimpleSectionLog(type), m_counts(4, 50) {}
+      : igsSimpleSectionLog(type) {}
 
   int receive_error(igsError* e) override;
   int mark_as_fixed(igsError* e) override;
@@ -82,9 +83,10 @@ class igsIndexedSectionLog : public igsSimpleSectionLog {
   void update_log() override;
 
  private:
-  void uncount(int key);
+  // Takes the error out of the list of its key.
+  void uncount(igsError* e);
 
-  intintcoTable m_counts;
+  coTable<int, igsErrorcoDynArr> m_by_key;
   igsErrorcoDynArr m_pending;
 };
 

@@ -4,9 +4,9 @@
 
 #include "core/igsFile.h"
 #include "core/igsObject.h"
+#include "entities/structure/igs124.h"
 #include "sections/igsDEErrors.h"
 #include "sections/igsDirectoryEntry.h"
-#include "sections/igsEntityKind.h"
 #include "sections/igsGlobalSection.h"
 
 #define IGS_ERROR IGS_ERROR_DEFINE
@@ -20,7 +20,7 @@ void igsObject::check_directory_entry(unsigned steps, int required_use) const {
   if (step(IGS_DE_LEVEL) && !de.level().valid()) raise_error<igsDEInvalidLevel>();
   if (igsObjectPtr const& matrix = de.matrix(); step(IGS_DE_MATRIX) && matrix) {
     // Both tests run: a matrix of the wrong kind is still checked.
-    if (!igs_isa_class(matrix, igs124_class)) raise_error<igsDEInvalidMatrix>();
+    if (!matrix->isa(igs124::type())) raise_error<igsDEInvalidMatrix>();
     if (!matrix->check()) raise_error<igsDEInvalidMatrixData>();
   }
   if (step(IGS_DE_COLOUR) && !de.colour().valid()) raise_error<igsDEInvalidColour>();

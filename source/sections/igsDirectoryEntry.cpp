@@ -2,10 +2,10 @@
 
 #include "core/igsInfoDB.h"
 #include "core/igsObject.h"
+#include "entities/structure/igs124.h"
 #include "input/igsInStream.h"
 #include "input/igsNumberText.h"
 #include "output/igsOutStream.h"
-#include "sections/igsEntityKind.h"
 #include "support/utOstream.h"
 
 #include <bit>
@@ -192,7 +192,7 @@ int igsDirectoryEntry::set_status_flags(igsStatusFlags const& flags) {
 }
 
 int igsDirectoryEntry::set_matrix(igsObjectPtr const& matrix) {
-  if (matrix && !igs_isa_class(matrix, igs124_class)) return 0;
+  if (matrix && !matrix->isa(igs124::type())) return 0;
   m_matrix = matrix;
   return 1;
 }

@@ -1,10 +1,10 @@
 // Tests of an entity's class by the class's name, for the definition entities that Directory
-// Entry attributes point to: line font and colour definitions, views and the transformation
-// matrix. Those classes stand on top of this layer, which therefore cannot name their type
-// records. Every type record carries the name of its class, and a class has one name, so
-// testing the records of an entity and of its bases against a name is the same test as `isa`
-// or `typeof` against the record. While a class is not built, no record carries its name and
-// nothing passes the test; once it is built, the test holds for it with no change here.
+// Entry attributes point to (line font and colour definitions, views) and that other parts
+// name before their classes are built. Every type record carries the name of its class, and a
+// class has one name, so testing the records of an entity and of its bases against a name is
+// the same test as `isa` or `typeof` against the record. While a class is not built, no
+// record carries its name and nothing passes the test; once it is built, the test holds for
+// it with no change here.
 #pragma once
 
 class igsObject;
@@ -12,7 +12,6 @@ class igsObjectPtr;
 class kvuTypeInfo;
 
 // The classes that the attribute rules name.
-inline constexpr char igs124_class[] = "igs124";     // transformation matrix
 inline constexpr char igs304_1_class[] = "igs304_1"; // line font definitions
 inline constexpr char igs304_2_class[] = "igs304_2";
 inline constexpr char igs314_class[] = "igs314";     // colour definition

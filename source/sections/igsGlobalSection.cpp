@@ -390,13 +390,13 @@ int igsGlobalSection::read_record_delimiter(igsInStream& in, utOstream&) {
   utString text;
   in.read_holerith(text);
   if (!in.error_type(igsIOValuePresent)) text = ";";
-  if (text.length() != 1) return 0;
-  char delimiter = text[0];
-  // A record delimiter that is also the parameter delimiter cannot tell where a record ends,
-  // and no file written with the two could be read back. The section then keeps the
-  // defaults, so that it stays writable.
-  if (!distinct_delimiter(delimiter, m_parameter_delimiter)) {
-    raise<igsGlobalSectionInvalidRecordDelim>(delimiter);
+  // A record delimiter that is no single character, or is also the parameter delimiter,
+  // cannot tell where a record ends, and no file written with it could be read back. The
+  // section then keeps the defaults, so that it stays writable whatever parameter delimiter
+  // was read.
+  char delimiter = text.length() == 1 ? text[0] : '\0';
+  if (text.length() != 1 || !distinct_delimiter(delimiter, m_parameter_delimiter)) {
+    if (text.length() == 1) raise<igsGlobalSectionInvalidRecordDelim>(delimiter);
     m_parameter_delimiter = ',';
     m_record_delimiter = ';';
     in.set_param_delimiter(',');

@@ -97,8 +97,6 @@ TEST_F(FactoryTest, TheTableHoldsEveryRegistrationOnceWithoutOverlaps) {
       }
     }
   }
-  // The classes of this library so far; a class that arrives flips its row.
-  EXPECT_EQ(active, 8);
   // Each active row is one live registration (others may be made by tests, and go again).
   EXPECT_GE(igsFactory::num_registrations(), active);
 }
@@ -127,35 +125,6 @@ TEST_F(FactoryTest, EveryRegisteredRangeMakesItsClassWithItsTypeInTheCurrentFile
       EXPECT_EQ(make(row.type, form).name(), expected_class(row.type, form))
           << row.name << " form " << form;
   }
-}
-
-TEST_F(FactoryTest, EveryTypeAndFormOfTheNameTablesLeadsToItsClassOrToUnknown) {
-  struct Form {
-    int type, min_form, max_form;
-  };
-  std::vector<Form> forms = {
-#define IGS_FORM_INFO(type, min_form, max_form, name) {type, min_form, max_form},
-#include "core/igsInfoDB.def"
-  };
-  std::vector<int> types = {
-#define IGS_ENTITY_INFO(type, name, default_form) type,
-#include "core/igsInfoDB.def"
-  };
-  int made = 0;
-  for (Form const& f : forms)
-    for (int form = f.min_form; form <= f.max_form && form <= f.min_form + 200; ++form) {
-      EXPECT_EQ(make(f.type, form).name(), expected_class(f.type, form))
-          << f.type << " form " << form;
-      ++made;
-    }
-  // Types without a list of forms have form 0 alone; the default form of every type too.
-  for (int type : types) {
-    int form = 0, found = 0;
-    igsInfoDB::default_form_number(type, form, found);
-    EXPECT_EQ(make(type, form).name(), expected_class(type, form)) << type << " form " << form;
-    ++made;
-  }
-  EXPECT_EQ(file->num_entities(), made);
 }
 
 TEST_F(FactoryTest, EdgeCasesOfTypesAndForms) {

@@ -1,6 +1,6 @@
 #include "core/objectTestSupport.h"
 
-#include "entities/structure/igs410_0ViewNumber.h"
+#include "entities/structure/igs410_0.h"
 #include "errors/igsFixer.h"
 
 #include <algorithm>
@@ -10,42 +10,13 @@
 
 namespace {
 
-// A view entity of the tests' own, with the number that the file check compares.
-class testView : public igsObject {
-  KVU_DECLARE_TYPE()
- public:
-  explicit testView(int number = igsViewNumbering::unset_number) : m_number(number) {
-    set_directory_entry_type(static_cast<igsEntityType>(410), 0);
-  }
-  int view_number() const { return m_number; }
-  int set_view_number(int number) {
-    m_number = number;
-    return 1;
-  }
-
- protected:
-  igsObject* make_one() override { return new testView; }
-  int read_pd_data(igsInStream&) override { return 0; }
-  void write_pd_data(igsOutStream&) override {}
-  void print_pd_data(utOstream&) const override {}
-  void check_pd() const override {}
-  void check_de() const override {}
-
- private:
-  int m_number;
-};
-KVU_DEFINE_TYPE(testView, igsObject)
-
 // A kind of view that is not the view class itself: the number check passes it by.
-class testDerivedView : public testView {
+class testDerivedView : public igs410_0 {
   KVU_DECLARE_TYPE()
- public:
-  using testView::testView;
-
  protected:
   igsObject* make_one() override { return new testDerivedView; }
 };
-KVU_DEFINE_TYPE(testDerivedView, testView)
+KVU_DEFINE_TYPE(testDerivedView, igs410_0)
 
 // Collects the int arguments of an error.
 struct IntArguments : igsErrorArgumentVisitor {
@@ -88,24 +59,23 @@ class FileCheckTest : public FileTest {
   }
 };
 
-// The tests of the view numbers run with the test view class installed as the views' class.
 class ViewNumberTest : public FileCheckTest {
  protected:
-  ViewNumberTest() : m_previous(igsViewNumbering::install(igsViewNumberingOf<testView>::get())) {}
-  ~ViewNumberTest() override { igsViewNumbering::install(m_previous); }
-  std::vector<int> numbers(std::vector<testView*> const& views) const {
+  std::vector<int> numbers(std::vector<igs410_0*> const& views) const {
     std::vector<int> result;
-    for (testView* v : views) result.push_back(v->view_number());
+    for (igs410_0* v : views) result.push_back(v->view_number());
     return result;
   }
-  std::vector<testView*> views(std::vector<int> const& numbers) const {
-    std::vector<testView*> made;
-    for (int n : numbers) made.push_back(new testView(n));
+  static igs410_0* view(int number) {
+    auto* made = new igs410_0;
+    made->set_view_number(number);
     return made;
   }
-
- private:
-  igsViewNumbering const* m_previous;
+  std::vector<igs410_0*> views(std::vector<int> const& numbers) const {
+    std::vector<igs410_0*> made;
+    for (int n : numbers) made.push_back(view(n));
+    return made;
+  }
 };
 
 TEST_F(FileCheckTest, CheckRaisesObjectErrorsAfreshWhileStructureErrorsStay) {
@@ -199,10 +169,10 @@ TEST_F(CleanTest, CleanOneLeavesOnlyTheEntitiesWithoutLoggedErrors) {
 }
 
 TEST_F(ViewNumberTest, ViewNumberZeroIsValidAndASecondZeroIsRepeated) {
-  std::vector<testView*> v = views({0});
+  std::vector<igs410_0*> v = views({0});
   file->check();
   EXPECT_EQ(object_log().num_errors(), 0);
-  v.push_back(new testView(0));
+  v.push_back(view(0));
   file->check();
   EXPECT_EQ(object_errors(), std::vector<std::string>{"igs410_0RepeatedView" + at(v[1]) + "(1)"});
   // The errors outlive the walk over the entities, and the repair gives the proposed number.
@@ -212,8 +182,9 @@ TEST_F(ViewNumberTest, ViewNumberZeroIsValidAndASecondZeroIsRepeated) {
 }
 
 TEST_F(ViewNumberTest, EachFaultProposesTheNextNumberAboveAllInUse) {
-  std::vector<testView*> v = views({3, igsViewNumbering::unset_number, 3, -5, 0, 7, -1});
-  auto* derived = new testDerivedView(3); // not of the view class itself: passed by
+  std::vector<igs410_0*> v = views({3, igs_unset_int, 3, -5, 0, 7, -1});
+  auto* derived = new testDerivedView; // not of the view class itself: passed by
+  derived->set_view_number(3);
   file->check();
   EXPECT_EQ(object_errors(),
             (std::vector<std::string>{"igs410_0NoViewNumberDefined" + at(v[1]) + "(8)",
@@ -231,14 +202,14 @@ TEST_F(ViewNumberTest, EachFaultProposesTheNextNumberAboveAllInUse) {
 }
 
 TEST_F(ViewNumberTest, ProposalsPastTheLargestIntTakeTheLowestFreeNumbers) {
-  std::vector<testView*> v = views({INT_MAX, 1, INT_MAX, igsViewNumbering::unset_number, 3});
+  std::vector<igs410_0*> v = views({INT_MAX, 1, INT_MAX, igs_unset_int, 3});
   file->clean(0);
   EXPECT_EQ(numbers(v), (std::vector<int>{INT_MAX, 1, 2, 4, 3}));
   EXPECT_EQ(object_log().num_errors(), 0);
 }
 
 TEST_F(ViewNumberTest, TheRepairOfAViewThatWentDoesNothingAndStays) {
-  std::vector<testView*> v = views({2, 2});
+  std::vector<igs410_0*> v = views({2, 2});
   file->check();
   ASSERT_EQ(object_log().num_errors(), 1);
   delete v[1];
@@ -246,14 +217,6 @@ TEST_F(ViewNumberTest, TheRepairOfAViewThatWentDoesNothingAndStays) {
   igsFixer().fix(log(), 1);
   EXPECT_EQ(object_log().num_errors(), 1);
   EXPECT_EQ(v[0]->view_number(), 2);
-}
-
-TEST_F(FileCheckTest, WithoutAViewClassThereAreNoViewNumbersToCheck) {
-  ASSERT_EQ(igsViewNumbering::installed(), nullptr);
-  new testView(-3);
-  new testView(-3);
-  file->check();
-  EXPECT_EQ(object_log().num_errors(), 0);
 }
 
 } // namespace

@@ -80,7 +80,7 @@ TEST_F(ReadTest, UnknownTypesAndFormsAreDefaultedOrDropped) {
   int copious_form_99 = f.add(106, 99, {"106,1,2,0.,0.,0.;"});
   int no_such_type = f.add(999, 0, {"999,1,2,3;"});
   // A type and form of the tables for which no class exists: Unknown, without an error.
-  int without_class = f.add(126, 0, {"126,1,1,0,0,1,0,0.,0.,1.,1.;"});
+  int without_class = f.add(125, 0, {"125,1.,1.,0.,0.,0.,0;"});
   ASSERT_EQ(read(f.text()), 1);
   EXPECT_EQ(errors(), (Lines{"igsFileDefaultedForm(line=1,entity_type=110,form=7)",
                              "igsFileUnknownForm(line=3,entity_type=106,form=99)",
@@ -414,124 +414,6 @@ std::string block(std::string const& text, std::string const& header, size_t ind
   return out;
 }
 
-// What a small file of ours prints: the frame of the file, each Directory Entry, the entity
-// labels, and an entity printed in full only where it is first met.
-std::string const three_entities_print = R"(IgesFile = {
-  Pathname = ""
-  NoOfLinesInStartSection = 1
-  StartSection = {
-    1 = "A file made for the reading tests.                                      "
-  }
-  GlobalSection = {
-    ParameterDelimiter = ,
-    RecordDelimiter = ;
-    ProductIdSendingSystem = "Product"
-    FileName = "part.igs"
-    SystemId = "Sender"
-    PreprocessorVersion = "5.3a"
-    BinaryBitsForInteger = 32
-    SinglePrecisionMagnitude = 38
-    FloatSignificantFigs = 6
-    DoublePowerOf10 = 308
-    DoubleSignificantFigs = 15
-    ProductIdReceivingSystem = "Receive"
-    ModelSpaceScale = 1
-    UnitsFlag = 2
-    Units = MM
-    LineWeightGraduations = 8
-    MaxLineWeightWidth = 0.7
-    GenerationDate = "20240102.030405"
-    MinimumResolution = 0.001
-    MaxCoordinateValue = 500
-    AuthorsName = "Author"
-    AuthorsOrganization = "Org"
-    IGESVersion = 11
-    DraftingStandard = 0
-    ModificationDate = "20240203.040506"
-  }
-  NoOfEntities = 3
-  Entities = {
-    @1(116) = {
-      DirectoryEntry = {
-        EntityTypeNumber = 116(Point)
-        Structure = 0
-        LineFontPattern = 0(No pattern specified)
-        Level = 0
-        View = AllViews
-        TransformationMatrix = IdentityMatrix
-        LabelDisplayAssociativity = Unsupported
-        BlankStatus = 0(Visible)
-        SubordinateStatus = 0(Independent)
-        EntityUse = 0(Geometry)
-        Hierarchy = 0(Global top down)
-        LineWeightNumber = 0
-        Colour = 0(No color assigned)
-        FormNumber = 0(Default)
-        EntityLabel = "        "
-        EntitySubscript = 0
-      }
-      Coordinates = (1, 2, 3)
-      DisplaySymbol = {
-        @5(100) = {
-          DirectoryEntry = {
-            EntityTypeNumber = 100(Circular Arc)
-            Structure = 0
-            LineFontPattern = 0(No pattern specified)
-            Level = 0
-            View = AllViews
-            TransformationMatrix = IdentityMatrix
-            LabelDisplayAssociativity = Unsupported
-            BlankStatus = 0(Visible)
-            SubordinateStatus = 0(Independent)
-            EntityUse = 0(Geometry)
-            Hierarchy = 0(Global top down)
-            LineWeightNumber = 0
-            Colour = 0(No color assigned)
-            FormNumber = 0(Default)
-            EntityLabel = "        "
-            EntitySubscript = 0
-          }
-          ZLevel = 1.5
-          Centre = (0, 0)
-          StartPoint = (2, 0)
-          EndPoint = (0, 2)
-        }
-      }
-    }
-    @3(110) = {
-      DirectoryEntry = {
-        EntityTypeNumber = 110(Line)
-        Structure = 0
-        LineFontPattern = 0(No pattern specified)
-        Level = 7
-        View = AllViews
-        TransformationMatrix = IdentityMatrix
-        LabelDisplayAssociativity = Unsupported
-        BlankStatus = 0(Visible)
-        SubordinateStatus = 0(Independent)
-        EntityUse = 0(Geometry)
-        Hierarchy = 0(Global top down)
-        LineWeightNumber = 0
-        Colour = 3(Green)
-        FormNumber = 0(Default)
-        EntityLabel = "    EDGE"
-        EntitySubscript = 12
-      }
-      StartPoint = (0, 0, 0)
-      EndPoint = (4, 5, 6)
-    }
-    @5(100) = {
-    }
-  }
-  TerminateSection = {
-    NoOfLinesInStartSection = 1
-    NoOfLinesInGlobalSection = 3
-    NoOfLinesInDirectorySection = 6
-    NoOfLinesInParameterSection = 4
-  }
-}
-)";
-
 TEST_F(ReadTest, PrintOfTheFileAndOfEachEntity) {
   FileText f = three_entities();
   EntityText& line = f.entity(3);
@@ -540,8 +422,13 @@ TEST_F(ReadTest, PrintOfTheFileAndOfEachEntity) {
   line.label = "EDGE";
   line.subscript = 12;
   ASSERT_EQ(read(f.text()), 1);
+  // The frame and every label are held by the golden prints of the entity families; here,
+  // that the Directory Entry shows the attributes read and each entity is printed once.
   std::string text = printed(*file);
-  EXPECT_EQ(text, three_entities_print);
+  std::string de = block(block(text, "@3(110) = {", 4), "DirectoryEntry = {", 2);
+  for (char const* shown : {"Level = 7\n", "Colour = 3(Green)\n", "EntityLabel = \"    EDGE\"\n",
+                            "EntitySubscript = 12\n"})
+    EXPECT_NE(de.find(shown), std::string::npos) << shown << " in\n" << de;
   // Each entity printed alone is what the file printed where the entity was first met.
   EXPECT_EQ(printed(*entity<igs116>(1)), block(text, "@1(116) = {", 4));
   EXPECT_EQ(printed(*entity<igs110>(3)), block(text, "@3(110) = {", 4));
@@ -619,12 +506,18 @@ TEST_F(ReadTest, AnEntityWritesItsTypeThenItsParametersAndDropsPointersBehindThe
             }),
             Lines{record('P', 1, "116,1.,2.,3.,3;", 1)});
 
-  // Two lists of back pointers behind the parameters are read and dropped up to the end of
-  // the record; a count far beyond what stands there ends with the record.
-  for (std::string tail : {"2,11,13,1,15;", "1000000000,7;"}) {
-    SCOPED_TRACE(tail);
-    std::istringstream text(igs_input_test::join(
-        {record('P', 1, "116,1.,2.,3.,0," + tail, 1), record('P', 2, "110,4.;", 3)}));
+  // Two lists of back pointers behind the parameters are read and dropped: a field behind them
+  // is the next to read; a record that ends with them, or a count far beyond what stands there,
+  // leaves the stream at the next record.
+  struct Tail {
+    char const* fields;
+    int next;
+  } const tails[] = {{"1,11,1,13,99;", 99}, {"2,11,13,1,15;", 110}, {"1000000000,7;", 110}};
+  for (Tail const& tail : tails) {
+    SCOPED_TRACE(tail.fields);
+    std::istringstream text(igs_input_test::join({record('P', 1, std::string("116,1.,2.,3.,0,") +
+                                                                    tail.fields, 1),
+                                                  record('P', 2, "110,4.;", 3)}));
     igsInStream in(text);
     in.reset();
     double skipped = 0.0;
@@ -632,7 +525,7 @@ TEST_F(ReadTest, AnEntityWritesItsTypeThenItsParametersAndDropsPointersBehindThe
     RecordAccess::read_tail(*point, in);
     int next = 0;
     in.read_integer(next);
-    EXPECT_EQ(next, 110);
+    EXPECT_EQ(next, tail.next);
   }
 }
 

@@ -57,6 +57,7 @@ struct EntityText {
   // Attributes of the D lines.
   int colour = 0;
   int level = 0;
+  int matrix = 0; // the DE number of a transformation matrix, 0 for none
   std::string label;
   int subscript = 0;
 };
@@ -66,11 +67,12 @@ struct EntityText {
 class FileText {
  public:
   // Adds an entity and returns its DE number.
-  int add(int type, int form, Lines data) {
+  int add(int type, int form, Lines data, int matrix = 0) {
     EntityText e;
     e.type = e.second_type = type;
     e.form = form;
     e.data = std::move(data);
+    e.matrix = matrix;
     m_entities.push_back(e);
     return 2 * static_cast<int>(m_entities.size()) - 1;
   }
@@ -88,7 +90,7 @@ class FileText {
       int start = e.start ? e.start : next_p;
       lines.push_back(record('D', n + 1,
                              right(e.type, 8) + right(start, 8) + zeros(2) + right(e.level, 8) +
-                                 zeros(3) + "00000000"));
+                                 zeros(1) + right(e.matrix, 8) + zeros(1) + "00000000"));
       lines.push_back(record('D', n + 2,
                              right(e.second_type, 8) + zeros(1) + right(e.colour, 8) +
                                  right(count, 8) + right(e.form, 8) + std::string(16, ' ') +

@@ -29,7 +29,7 @@ struct FileText {
   char parameter = ',';
   char record = ';';
   int d_lines = 0;
-  std::vector<int> types;          // the type of each D entry, by position
+  std::vector<int> types; // the type of each D entry, by position
   std::vector<int> forms;
   std::map<int, std::string> data; // P data by back pointer
 };
@@ -116,8 +116,7 @@ std::string difference(igs_family_test::Values const& values, std::vector<Field>
     }
     if (!same)
       return "parameter " + std::to_string(i + 1) + " is " +
-             (item.kind == igs_family_test::Value::Text ? item.text
-                                                         : std::to_string(item.number)) +
+             (item.kind == igs_family_test::Value::Text ? item.text : std::to_string(item.number)) +
              ", the file has \"" + field.raw + "\"";
   }
   return {};

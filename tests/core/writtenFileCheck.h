@@ -159,4 +159,16 @@ inline std::vector<std::string> written_file_faults(std::string_view text) {
   return faults;
 }
 
+// The parameter record of a DE number as written: columns 1 to 64 of its P lines, each without
+// trailing blanks, joined. Fields never break over a line end, so this is the record.
+inline std::string written_record(std::string_view text, int de_number) {
+  std::string record;
+  for (size_t at = 0; at + 80 <= text.size(); at += 81)
+    if (text[at + 72] == 'P' && fixed_number(text.substr(at + 65, 7)) == de_number) {
+      std::string_view data = text.substr(at, 64);
+      record += data.substr(0, data.find_last_not_of(' ') + 1);
+    }
+  return record;
+}
+
 } // namespace igs_test

@@ -12,6 +12,8 @@
 //     again and taken through the round trip; clean(1) must then leave a file that checks
 //     clean.
 //
+// IGS_DAMAGE_FILES=DIR in the environment writes the file of each damage row to DIR (for an
+// independent reader to load what igs repair makes of it).
 // IGS_UPDATE_FIXTURES=1 in the environment writes the seeds and the golden prints anew
 // instead of comparing them.
 #pragma once
@@ -71,9 +73,8 @@ struct CorpusRow {
 };
 
 template <class T, class F> CorpusRow row(F values) {
-  return {&T::type(), [values](igsObject const& e, Values& v) {
-            values(static_cast<T const&>(e), v);
-          }};
+  return {&T::type(),
+          [values](igsObject const& e, Values& v) { values(static_cast<T const&>(e), v); }};
 }
 
 // Every row of every family, gathered as the corpus test binary starts.
@@ -98,11 +99,14 @@ inline CorpusRow const* corpus_row(kvuTypeInfo const& type) {
 }
 
 // One entity of a test file: type, form and the whole parameter record, which the file cuts
-// into P lines behind its delimiters.
+// into P lines behind its delimiters, and the DE number of its transformation matrix and its
+// colour number.
 struct Record {
   int type;
   int form;
   std::string data;
+  int matrix = 0;
+  int colour = 0;
 };
 using Records = std::vector<Record>;
 
@@ -114,20 +118,34 @@ struct Family {
   char const* name;
   char const* folder; // under tests/entities
   Records records;
+  // What check finds in the file: nothing, unless a class of the family needs a class that
+  // is still to come (a face needs a surface).
+  std::vector<std::string> raised = {};
 };
 
 // Reads the family file and holds it to every promise above.
 void expect_family(Family const& family);
 
 // A damaged file and what must come of it. Errors are written "@DE Class(arguments)" for
-// object and structure errors, "Class(arguments)" for the others, sorted.
+// object and structure errors, "Class(arguments)" for the others, sorted. A null entity that a
+// repair put in an entity's place is written, and reading drops it as it drops every null
+// entity: the round trip after clean(0) then holds the file to the entities that reading keeps.
 struct Damage {
   char const* what;
   Records records;
-  std::vector<std::string> raised;  // what check finds
-  std::vector<std::string> left;    // what check finds after clean(0)
-  std::string message = {};         // what the repairs of clean(0) print, exactly
+  std::vector<std::string> raised; // what check finds
+  std::vector<std::string> left;   // what check finds after clean(0)
+  std::string message = {};        // what the repairs of clean(0) print, exactly
+  std::string repaired = {};       // if given: the record of DE 1 as written after clean(0)
+  // What check finds in the text that clean(1) left: nothing, unless a repair that kept an
+  // entity made it lean on one that clean(1) then deleted, or made an entity of its own that
+  // its next check finds fault with, or only let the log forget an error.
+  std::vector<std::string> after_delete = {};
 };
+
+// The parameter record of the entity as the file writes it, from its type to the record
+// delimiter, cut from the P lines of the written text.
+std::string written_record(igsFile& file, int de_number);
 
 void expect_damage(Damage const& damage);
 

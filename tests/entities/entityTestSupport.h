@@ -68,7 +68,7 @@ inline std::string describe(igsError const& e) {
 
 // Each test works on a file of its own, current while the test runs.
 class EntityTest : public ::testing::Test {
- protected:
+ public:
   std::unique_ptr<igsFile> file = std::make_unique<igsFile>();
 
   static igsIndexedSectionLog& object_log() {

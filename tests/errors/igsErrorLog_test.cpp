@@ -164,6 +164,14 @@ TEST_F(LogTest, EachBaseHasItsOwnSectionLog) {
   EXPECT_EQ(structure_log().num_errors(igsIndexedError::unset_key), 1);
   EXPECT_EQ(log().get_indexed_log(igsGlobalLog), nullptr);
   EXPECT_EQ(log().get_indexed_log(igsStructureLog), &structure_log());
+  // A number that is no section gives the object log, and says so.
+  kvnabsStringOutput sink;
+  get_igs_stream().set_error_stream(&sink);
+  igsSimpleSectionLog* fallback =
+      &log().get_section_log(static_cast<igsLogID>(igsTerminateLog + 1));
+  get_igs_stream().set_error_stream(nullptr);
+  EXPECT_EQ(fallback, &log().get_section_log(igsObjectLog));
+  EXPECT_EQ(sink.text().rfind("Assertion failed: ", 0), 0u) << sink.text();
 
   // A simple log walks in slot order too, and print changes nothing.
   log().print();

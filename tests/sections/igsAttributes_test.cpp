@@ -203,16 +203,16 @@ TEST_F(AttributeTest, LevelsViewsAndClassesByName) {
   EXPECT_EQ(igsView(7).view()(), view);
 
   // The definitions' classes by name: exactly, or as a kind.
-  auto* matrix = new fake::igs124;
-  auto* kind = new fake::matrixKind;
-  EXPECT_TRUE(igs_isa_class(matrix, igs124_class));
-  EXPECT_FALSE(igs_isa_class(kind, igs124_class));
-  EXPECT_TRUE(igs_typeof_class(kind, igs124_class));
-  EXPECT_FALSE(igs_typeof_class(list, igs124_class));
-  EXPECT_FALSE(igs_isa_class(static_cast<igsObject const*>(nullptr), igs124_class));
-  EXPECT_FALSE(igs_typeof_class(static_cast<igsObject const*>(nullptr), igs124_class));
-  EXPECT_TRUE(igs_isa_class(igsObjectPtr(matrix), igs124_class));
-  EXPECT_FALSE(igs_typeof_class(igsObjectPtr(99), igs124_class)); // an empty slot
+  auto* colour = new fake::igs314;
+  auto* kind = new fake::colourKind;
+  EXPECT_TRUE(igs_isa_class(colour, igs314_class));
+  EXPECT_FALSE(igs_isa_class(kind, igs314_class));
+  EXPECT_TRUE(igs_typeof_class(kind, igs314_class));
+  EXPECT_FALSE(igs_typeof_class(list, igs314_class));
+  EXPECT_FALSE(igs_isa_class(static_cast<igsObject const*>(nullptr), igs314_class));
+  EXPECT_FALSE(igs_typeof_class(static_cast<igsObject const*>(nullptr), igs314_class));
+  EXPECT_TRUE(igs_isa_class(igsObjectPtr(colour), igs314_class));
+  EXPECT_FALSE(igs_typeof_class(igsObjectPtr(99), igs314_class)); // an empty slot
 }
 
 } // namespace

@@ -79,7 +79,10 @@ TEST_F(DECheckTest, EachClassRunsItsSelectionOfStepsInTheirOrder) {
   entity->directory_entry().set_fields(bad_fields(list->de_number(), matrix->de_number()));
   entity->check();
   igsDirectoryFields good;
-  good.matrix = (new fake::igs124)->de_number();
+  auto* rotation = new igs124;
+  double const identity[4][4] = {{1, 0, 0, 0}, {0, 1, 0, 0}, {0, 0, 1, 0}, {0, 0, 0, 1}};
+  rotation->set_matrix(identity);
+  good.matrix = rotation->de_number();
   good.line_weight_number = 1; // the Global section's maximum
   entity->directory_entry().set_fields(good);
   EXPECT_EQ(entity->check(), 1);

@@ -73,7 +73,7 @@ TEST_F(DirectoryEntryTest, FieldsWrittenAndReadBackAreEqual) {
   new fake::igs314;
   new deNode;
   new fake::igs410_0;
-  new fake::igs124;
+  new igs124;
   new deNode;
   int const line_fonts[] = {-1, 0, 1, 2, 3, 4, 5, 6, -99, -9999999};
   int const levels[] = {-5, 0, 7, 99999999, 12345};
@@ -217,7 +217,7 @@ TEST_F(DirectoryEntryTest, ReadingTakesBlankFieldsAsZeroAndKeepsEverythingElse) 
 
 TEST_F(DirectoryEntryTest, SettersRefuseWhatTheChecksWouldRefuse) {
   auto* entity = new deNode;
-  auto* matrix = new fake::igs124;
+  auto* matrix = new igs124;
   auto* font = new fake::igs304_2;
   igsDirectoryEntry& de = entity->directory_entry();
   // Each pair: one value refused, the other taken.
@@ -284,8 +284,8 @@ TEST_F(DirectoryEntryTest, DroppingChildrenDeletesWhatOnlyTheEntryHeld) {
     f.matrix = 9;
     return f;
   }());
-  new deNode;       // DE 7, the view
-  new fake::igs124; // DE 9, the matrix
+  new deNode; // DE 7, the view
+  new igs124; // DE 9, the matrix
   EXPECT_EQ(file->num_entities(), 5);
   entity->drop_children();
   // The line font definition, the view and the matrix went; the colour is held elsewhere.
@@ -301,12 +301,12 @@ TEST_F(DirectoryEntryTest, DroppingChildrenDeletesWhatOnlyTheEntryHeld) {
 TEST_F(DirectoryEntryTest, PrintNestsTheMatrixInTheEntry) {
   auto* entity = new deNode;
   entity->set_type(124, 1);
-  EXPECT_EQ(entity->directory_entry().set_matrix(new fake::igs124), 1);
+  EXPECT_EQ(entity->directory_entry().set_matrix(new igs124), 1);
   std::string text = printed(*entity);
   EXPECT_EQ(text.find("@1(124) = {\n  DirectoryEntry = {\n    EntityTypeNumber = 124(Transformat"),
             0u)
       << text;
-  EXPECT_NE(text.find("    TransformationMatrix = {\n      @3(9002) = {\n        DirectoryEntry"),
+  EXPECT_NE(text.find("    TransformationMatrix = {\n      @3(124) = {\n        DirectoryEntry"),
             std::string::npos)
       << text;
   EXPECT_NE(text.find("  }\n  Steps = 223\n}\n"), std::string::npos) << text;

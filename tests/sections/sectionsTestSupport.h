@@ -6,6 +6,7 @@
 #include "core/igsFile.h"
 #include "core/igsObject.h"
 #include "core/igsObjectSystem.h"
+#include "entities/structure/igs124.h"
 #include "errors/igsErrorClass.h"
 #include "errors/igsErrorLog.h"
 #include "input/inputTestSupport.h"
@@ -200,7 +201,6 @@ class definitionBase : public deNode {
 };
 KVU_DEFINE_TYPE(definitionBase, deNode)
 
-IGS_FAKE_DEFINITION(igs124, definitionBase)
 IGS_FAKE_DEFINITION(igs304_1, definitionBase)
 IGS_FAKE_DEFINITION(igs304_2, definitionBase)
 IGS_FAKE_DEFINITION(igs314, definitionBase)
@@ -209,8 +209,15 @@ IGS_FAKE_DEFINITION(igs410_0, definitionBase)
 // A kind of colour definition: the colour rules take kinds, the matrix and view rules only
 // the exact class.
 IGS_FAKE_DEFINITION(colourKind, igs314)
-IGS_FAKE_DEFINITION(matrixKind, igs124)
 #undef IGS_FAKE_DEFINITION
+
+// A kind of transformation matrix, which is no matrix to a Directory Entry.
+class matrixKind : public ::igs124 {
+  KVU_DECLARE_TYPE()
+ protected:
+  igsObject* make_one() override { return new matrixKind; }
+};
+KVU_DEFINE_TYPE(matrixKind, ::igs124)
 
 // The name that the stand-in colour definition holds.
 inline utString colour_name_of(igsObject const& definition) {

@@ -1,7 +1,9 @@
 // The curve and point classes as their accessors give their parameters, for the corpus test.
 #include "entities/curves/igs100.h"
+#include "entities/curves/igs102.h"
 #include "entities/curves/igs110.h"
 #include "entities/curves/igs116.h"
+#include "entities/curves/igs126.h"
 #include "entities/curves/igsPointset.h"
 #include "entities/curves/igsPolyline.h"
 #include "entities/curves/igsSimpleClosedPlanarCurve.h"
@@ -46,6 +48,28 @@ CorpusRows const curves = {
         e.point(i, p);
         v << p;
       }
+    }),
+    row<igs102>([](igs102 const& e, Values& v) {
+      v << e.number_of_sub_curves();
+      for (int i = 0; i < e.number_of_sub_curves(); ++i) {
+        igsObjectPtr curve;
+        e.sub_curve(i, curve);
+        v << curve;
+      }
+    }),
+    // K, M, the flags, the knots, the weights, the control points, the limits, the normal.
+    row<igs126>([](igs126 const& e, Values& v) {
+      int n = e.number_of_control_points();
+      v << n - 1 << e.order() - 1 << e.planar_flag() << e.closed_flag() << e.rational_flag()
+        << e.periodic_flag();
+      double value = 0.0;
+      for (int i = 0; i < e.number_of_knots(); ++i) v << (e.knot(i, value), value);
+      for (int i = 0; i < n; ++i) v << (e.weight(i, value), value);
+      giPoint3 point;
+      for (int i = 0; i < n; ++i) v << (e.control_point(i, point), point);
+      double start = 0.0, end = 0.0;
+      e.parametric_limits(start, end);
+      v << start << end << e.unit_normal();
     }),
 };
 
