@@ -22,8 +22,11 @@ void igs_print_knots(utOstream& out, char const* heading, double const* knots, i
 
 // Knots closer than the tolerance become multiple knots, for a vector of n knots of order k:
 // from the top of the range down, a close pair takes the upper knot's value; then from the
-// bottom up, the lower knot's. The pair at the bottom of the range is left as it is.
-template <class Get, class Set> void igs_pull_close_knots(int k, int n, Get const& at, Set const& set) {
+// bottom up, the lower knot's. The pair at the bottom of the range is left as it is. A vector
+// of no order (an unsized one) has no range to walk.
+template <class Get, class Set>
+void igs_pull_close_knots(int k, int n, Get const& at, Set const& set) {
+  if (k < 1) return;
   double const tolerance = kvnTolCoincBreakPoints.value();
   int const m = n - k;
   for (int i = m; i > k; --i) {
