@@ -16,7 +16,9 @@
 #include <cstdio>
 #include <cstdlib>
 #include <ctime>
+#include <fstream>
 #include <istream>
+#include <iterator>
 #include <new>
 #include <sstream>
 #include <string>
@@ -484,3 +486,79 @@ BENCHMARK(BM_ReadSurfaces)->Unit(benchmark::kMillisecond)->Iterations(3);
 // ---- End of the surfaces.
 
 } // namespace
+
+// ---- Trimmed surfaces: bicubic B-spline surfaces of 6 to 13 by 6 control points, each
+// trimmed by an outer boundary of four B-spline curves in parameter space and one in model
+// space, joined by a curve on the surface, as CAD systems send a face.
+Generated generate_trimmed_surfaces(std::size_t at_least) {
+  RecordText file;
+  Reals reals;
+  auto append_knots = [](std::string& fields, int points) {
+    int const spans = points - 3;
+    fields.append(",0.,0.,0.,0.");
+    for (int i = 1; i < spans; ++i) fields.append(",").append(std::to_string(i)).append(".");
+    for (int i = 0; i < 4; ++i) fields.append(",").append(std::to_string(spans)).append(".");
+  };
+  auto curve = [&](int points, bool planar) {
+    std::string fields(",");
+    fields.append(std::to_string(points - 1)).append(",3,").append(planar ? "1" : "0");
+    fields.append(",0,1,0");
+    append_knots(fields, points);
+    for (int i = 0; i < points; ++i) fields.append(",1.");
+    for (int i = 0; i < points; ++i)
+      fields.append(",").append(reals.next()).append(",").append(reals.next()).append(
+          planar ? ",0." : "," + reals.next());
+    fields.append(",0.,").append(std::to_string(points - 3)).append(".,0.,0.,1.");
+    return file.add(126, 0, fields);
+  };
+  for (int index = 0; file.d.size() + file.p.size() < at_least; ++index) {
+    int const n_u = 6 + index % 8, n_v = 6;
+    std::string fields(",");
+    fields.append(std::to_string(n_u - 1)).append(",").append(std::to_string(n_v - 1));
+    fields.append(",3,3,0,0,1,0,0");
+    append_knots(fields, n_u);
+    append_knots(fields, n_v);
+    for (int i = 0; i < n_u * n_v; ++i) fields.append(",1.");
+    for (int i = 0; i < 3 * n_u * n_v; ++i) fields.append(",").append(reals.next());
+    fields.append(",0.,").append(std::to_string(n_u - 3)).append(".,0.,3.");
+    int surface = file.add(128, 0, fields);
+    int first = 0;
+    for (int side = 0; side < 4; ++side) {
+      int de = curve(4 + side, true);
+      if (!side) first = de;
+    }
+    int composite = file.add(102, 0, ",4," + std::to_string(first) + "," +
+                                         std::to_string(first + 2) + "," +
+                                         std::to_string(first + 4) + "," +
+                                         std::to_string(first + 6));
+    int model = curve(8, false);
+    int on_surface = file.add(142, 0,
+                              ",0," + std::to_string(surface) + "," + std::to_string(composite) +
+                                  "," + std::to_string(model) + ",2");
+    file.add(144, 0, "," + std::to_string(surface) + ",1,0," + std::to_string(on_surface));
+  }
+  return file.text();
+}
+
+void BM_ReadTrimmedSurfaces(benchmark::State& state) {
+  static Generated const g = generate_trimmed_surfaces(50u << 20);
+  measure_read(state, g);
+}
+BENCHMARK(BM_ReadTrimmedSurfaces)->Unit(benchmark::kMillisecond)->Iterations(3);
+
+// A file named by IGS_BENCH_FILE, such as one that another system wrote: skipped when unset.
+void BM_ReadNamedFile(benchmark::State& state) {
+  char const* path = std::getenv("IGS_BENCH_FILE");
+  if (!path || !*path) {
+    state.SkipWithError("IGS_BENCH_FILE is not set");
+    return;
+  }
+  static Generated g;
+  if (g.text.empty()) {
+    std::ifstream in(path, std::ios::binary);
+    g.text.assign(std::istreambuf_iterator<char>(in), std::istreambuf_iterator<char>());
+  }
+  measure_read(state, g);
+}
+BENCHMARK(BM_ReadNamedFile)->Unit(benchmark::kMillisecond)->Iterations(3);
+// ---- End of the trimmed surfaces.

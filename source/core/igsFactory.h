@@ -97,15 +97,19 @@ class igsFactory {
 // Directory Entry check with the steps of igsDECheckStep that apply, and the prototype maker
 // that the factory names.
 #define IGS_ENTITY_DEFINE(Class, Base, type, form, de_steps)                                       \
+  IGS_ENTITY_DEFINE_USE(Class, Base, type, form, de_steps, 0)
+// The same for a class whose entities have an entity use of their own: the constructor sets it,
+// and the Directory Entry check demands it when IGS_DE_ENTITY_USE is among the steps.
+#define IGS_ENTITY_DEFINE_USE(Class, Base, type, form, de_steps, use)                              \
   KVU_DEFINE_TYPE(Class, Base)                                                                     \
   Class::Class() {                                                                                 \
-    set_directory_entry_type(static_cast<igsEntityType>(type), form);                              \
+    set_directory_entry_type(static_cast<igsEntityType>(type), form, use);                         \
   }                                                                                                \
   igsObject* Class::make_one() {                                                                   \
     return new (std::nothrow) Class;                                                               \
   }                                                                                                \
   void Class::check_de() const {                                                                   \
-    check_directory_entry(de_steps);                                                               \
+    check_directory_entry(de_steps, use);                                                          \
   }                                                                                                \
   igsObject* igs_make_prototype_##Class();                                                         \
   igsObject* igs_make_prototype_##Class() {                                                        \

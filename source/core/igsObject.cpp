@@ -71,6 +71,7 @@ void igsObject::tag_error(igsStructureError* error) const {
   if (kvnabsOutput* stream = file().message_stream()) error->set_message_stream(stream);
 }
 
-void igsObject::set_directory_entry_type(igsEntityType type, int form) {
+void igsObject::set_directory_entry_type(igsEntityType type, int form, int entity_use) {
   directory_entry().set_entity_type_and_form(type, form);
+  if (entity_use) directory_entry().set_status_flags(igsStatusFlags(0, 0, entity_use, 0));
 }

@@ -68,8 +68,9 @@ class igsObject {
   // demands.
   void check_directory_entry(unsigned steps, int required_use = 0) const;
 
-  // Stores type and form in the DE; every concrete constructor calls it last.
-  void set_directory_entry_type(igsEntityType type, int form);
+  // Stores type and form in the DE, and an entity use other than 0; every concrete constructor
+  // calls it last.
+  void set_directory_entry_type(igsEntityType type, int form, int entity_use = 0);
 
   // Reads the entity's record, the stream standing on its first Parameter line: the type
   // number, then read_pd_data. A record read to its end marks the entity as read (the

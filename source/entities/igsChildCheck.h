@@ -113,16 +113,21 @@ int igs_take_place_of_lone_child(igsObjectPtr const& child, igsObject* entity);
 
 // The repair of a reference that names a child of the wrong kind where a curve is wanted: a
 // curve made of the child takes the child's place everywhere when nothing but the reference
-// (and the repair's own) holds the child, else in the reference alone, through the setter. 0
-// when the owner is gone or no curve could be made.
-template <class Owner>
-int igs_replace_child_by_curve(int key, igsObjectPtr const& (Owner::*get)() const,
-                               int (Owner::*set)(igsObjectPtr const&)) {
-  Owner* owner = igs_error_entity<Owner>(key);
-  if (!owner) return 0;
-  igsObjectPtr child = (owner->*get)();
+// and this copy of it hold the child, else in the reference alone, through `set(curve)`. 0
+// when no curve could be made.
+template <class Set> int igs_replace_by_curve(igsObjectPtr child, Set const& set) {
   igsObject* curve = igs_curve_of(child);
   if (!curve) return 0;
-  if (!igs_take_place_of_lone_child(child, curve)) (owner->*set)(igsObjectPtr(curve));
+  if (!igs_take_place_of_lone_child(child, curve)) set(igsObjectPtr(curve));
   return 1;
+}
+
+// The same for the reference that the owner's accessor gives and its setter sets; 0 too when
+// the owner is gone.
+template <class Owner, class Set>
+int igs_replace_child_by_curve(int key, igsObjectPtr const& (Owner::*get)() const, Set set) {
+  Owner* owner = igs_error_entity<Owner>(key);
+  return owner && igs_replace_by_curve((owner->*get)(), [&](igsObjectPtr const& curve) {
+           (owner->*set)(curve);
+         });
 }

@@ -11,6 +11,7 @@
 #include "output/igsOutStream.h"
 #include "sections/igsDECheck.h"
 #include "sections/igsDirectoryEntry.h"
+#include "support/coNames.h"
 #include "support/coResource.h"
 #include "support/giGeometry.h"
 #include "support/utOstream.h"
@@ -143,7 +144,9 @@ class igsParametricFormat {
 };
 
 // "Label = {", then on a nested stream the referenced entity or "(NullPointer)", then "}".
-void igs_print_reference(utOstream& out, char const* label, igsObjectPtr const& reference);
+// `opening` stands for " = {".
+void igs_print_reference(utOstream& out, char const* label, igsObjectPtr const& reference,
+                         char const* opening = " = {");
 
 // A heading such as "ControlPoints = {", then on a nested stream one line "(i) = " per member,
 // whose value `item(out, i)` prints, then "}".
@@ -162,6 +165,33 @@ template <class Array>
 void igs_print_values(utOstream& out, char const* heading, Array const& values) {
   igs_print_list(out, heading, values.size(), [&](utOstream& o, int i) { o << values[i]; });
 }
+
+// The member at a position in range into `member`, and 1; else 0.
+int igs_member(igsObjectPtrcoDynArr const& list, int position, igsObjectPtr& member);
+// Stores the member at the position, growing the list to hold it; 0 and nothing done for a
+// negative position.
+int igs_set_member(igsObjectPtrcoDynArr& list, int position, igsObjectPtr const& member);
+// Reads `count` references into the list, as igs_read_members does.
+inline int igs_read_references(igsInStream& in, int count, igsObjectPtrcoDynArr& list) {
+  return igs_read_members(in, count, list, [&in] {
+    igsObjectPtr member;
+    igs_read_field(in, member);
+    return member;
+  });
+}
+// Reads a count, then that many references into the list. A negative count is handed to
+// `bad(count)` and gives 0; so does a list that could not grow.
+template <class Bad>
+int igs_read_references(igsInStream& in, igsObjectPtrcoDynArr& list, Bad const& bad) {
+  int count = 0;
+  igs_read_field(in, count);
+  if (count < 0) return bad(count), 0;
+  return igs_read_references(in, count, list);
+}
+// The count, then the DE number of each member.
+void igs_write_references(igsOutStream& out, igsObjectPtrcoDynArr const& list);
+// For each member, "Name(i)= {", the member one tab level deeper or "(NullPointer)", "}".
+void igs_print_references(utOstream& out, char const* name, igsObjectPtrcoDynArr const& list);
 
 // The entity whose DE number an error holds as its key, if it is of class T (or derives from
 // it); null when the number names no entity of that kind any more. Repairs reach their entity

@@ -58,6 +58,7 @@ struct EntityText {
   int colour = 0;
   int level = 0;
   int matrix = 0; // the DE number of a transformation matrix, 0 for none
+  std::string status = "00000000";
   std::string label;
   int subscript = 0;
 };
@@ -90,7 +91,7 @@ class FileText {
       int start = e.start ? e.start : next_p;
       lines.push_back(record('D', n + 1,
                              right(e.type, 8) + right(start, 8) + zeros(2) + right(e.level, 8) +
-                                 zeros(1) + right(e.matrix, 8) + zeros(1) + "00000000"));
+                                 zeros(1) + right(e.matrix, 8) + zeros(1) + e.status));
       lines.push_back(record('D', n + 2,
                              right(e.second_type, 8) + zeros(1) + right(e.colour, 8) +
                                  right(count, 8) + right(e.form, 8) + std::string(16, ' ') +

@@ -105,8 +105,11 @@ std::string registered_class(int type, int form) {
 
 std::string file_text(Records const& records) {
   igs_read_test::FileText text;
-  for (Record const& r : records)
-    text.entity(text.add(r.type, r.form, cut(r.data), r.matrix)).colour = r.colour;
+  for (Record const& r : records) {
+    igs_read_test::EntityText& e = text.entity(text.add(r.type, r.form, cut(r.data), r.matrix));
+    e.colour = r.colour;
+    e.status = r.status;
+  }
   return text.text();
 }
 

@@ -99,14 +99,15 @@ inline CorpusRow const* corpus_row(kvuTypeInfo const& type) {
 }
 
 // One entity of a test file: type, form and the whole parameter record, which the file cuts
-// into P lines behind its delimiters, and the DE number of its transformation matrix and its
-// colour number.
+// into P lines behind its delimiters, and the DE number of its transformation matrix, its
+// colour number and its status number (eight digits).
 struct Record {
   int type;
   int form;
   std::string data;
   int matrix = 0;
   int colour = 0;
+  std::string status = "00000000";
 };
 using Records = std::vector<Record>;
 

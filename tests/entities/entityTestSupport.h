@@ -32,7 +32,7 @@ struct Access : igsObject {
   static void drop_children(igsObject& e) { (e.*&Access::unreference_children)(); }
   // Gives the entity another form, as the reader does with the form of its DE.
   static void set_form(igsObject& e, int form) {
-    (e.*&Access::set_directory_entry_type)(e.directory_entry().entity_type(), form);
+    (e.*&Access::set_directory_entry_type)(e.directory_entry().entity_type(), form, 0);
   }
 };
 

@@ -5,21 +5,14 @@
 #include "entities/curves/igsCurveErrors.h"
 #include "operations/igsConvert.h"
 
-#include <climits>
-
 IGS_ENTITY_DEFINE(igs102, igsCurve, 102, 0, IGS_DE_ALL)
 
 int igs102::sub_curve(int position, igsObjectPtr& curve) const {
-  if (position < 0 || position >= m_curves.size()) return 0;
-  curve = m_curves[position];
-  return 1;
+  return igs_member(m_curves, position, curve);
 }
 
 int igs102::set_sub_curve(int position, igsObjectPtr const& curve) {
-  if (position < 0 || position == INT_MAX || !curve) return 0;
-  if (position >= m_curves.size() && !m_curves.expand(position + 1)) return 0;
-  m_curves[position] = curve;
-  return 1;
+  return curve && igs_set_member(m_curves, position, curve);
 }
 
 void igs102::set_size(int size) {
@@ -51,41 +44,20 @@ void igs102::unreference_children() {
 
 // A record that ends before its count is reached gives the members it holds.
 int igs102::read_pd_data(igsInStream& in) {
-  int count = 0;
-  in.read_integer(count);
-  if (count < 0) {
-    raise_error<igs102BadNumCurves>(count);
+  if (!igs_read_references(in, m_curves,
+                           [this](int count) { raise_error<igs102BadNumCurves>(count); }))
     return 0;
-  }
-  m_curves.clear();
-  if (!igs_reserve(m_curves, count)) return 0;
-  for (int i = 0; i < count && !in.frozen(); ++i) {
-    igsObjectPtr curve;
-    igs_read_field(in, curve);
-    if (!m_curves.append(std::move(curve))) return 0;
-  }
   set_index_list();
   return 1;
 }
 
 void igs102::write_pd_data(igsOutStream& out) {
-  igs_write_field(out, m_curves.size());
-  for (igsObjectPtr const& curve : m_curves) igs_write_field(out, curve);
+  igs_write_references(out, m_curves);
 }
 
 void igs102::print_pd_data(utOstream& out) const {
   out << "NumberOfSubCurves = " << m_curves.size() << "\n";
-  for (int i = 0; i < m_curves.size(); ++i) {
-    out << "SubCurve(" << i << ")= {\n";
-    {
-      utOstream nested(utOstreamTabTag, out, 1, 0);
-      if (m_curves[i])
-        m_curves[i]->print(nested);
-      else
-        nested << "(NullPointer)\n";
-    }
-    out << "}\n";
-  }
+  igs_print_references(out, "SubCurve", m_curves);
 }
 
 // Members are curves, or points; two points in a row only make a curve of two members, and a

@@ -117,21 +117,13 @@ int igs126::read_flags(igsInStream& in) {
   return 1;
 }
 
-// Within the room made by read_curve_size a record that ends early gives 0.0 for the values
-// it lacks, as for any defaulted field; beyond it a value is taken only while the record
-// lasts, and a record that ends first has a count it does not hold. The curve then has no
-// size again.
 int igs126::read_values(igsInStream& in, int first, int count) {
-  for (int i = first; i < first + count; ++i) {
-    if (i == m_values.size() && (in.frozen() || !m_values.append(0.0))) {
-      if (in.frozen()) raise_error<igs126BadSumIndex>(m_size - 1);
-      m_values.clear(1);
-      m_size = 0;
-      return 0;
-    }
-    in.read_double(m_values.data()[i]);
-  }
-  return 1;
+  int ended = 0;
+  if (igs_read_values(in, m_values, first, count, ended)) return 1;
+  if (ended) raise_error<igs126BadSumIndex>(m_size - 1);
+  m_values.clear(1);
+  m_size = 0;
+  return 0;
 }
 
 int igs126::read_knots(igsInStream& in) {
@@ -185,32 +177,15 @@ void igs126::print_pd_data(utOstream& out) const {
   out << "UnitNormal = " << m_normal << "\n";
 }
 
-// The number, then the word for it: `truth` is the value that means true.
-static void print_flag(utOstream& out, char const* label, int flag, int truth) {
-  char const* word = flag == truth ? "(True)" : flag == 1 - truth ? "(False)" : "(Unknown)";
-  out << label << flag << word << "\n";
-}
-
 void igs126::print_flags(utOstream& out) const {
-  print_flag(out, "Planar = ", m_planar, 1);
-  print_flag(out, "Closed = ", m_closed, 1);
-  print_flag(out, "Rational = ", m_rational, 0);
-  print_flag(out, "Periodic = ", m_periodic, 1);
+  igs_print_flag(out, "Planar = ", m_planar, 1);
+  igs_print_flag(out, "Closed = ", m_closed, 1);
+  igs_print_flag(out, "Rational = ", m_rational, 0);
+  igs_print_flag(out, "Periodic = ", m_periodic, 1);
 }
 
-// One line for each run of equal knots.
 void igs126::print_knot_vector(utOstream& out) const {
-  out << "KnotVector = {\n";
-  {
-    utOstream nested(utOstreamTabTag, out, 1, 0);
-    int knots = number_of_knots();
-    for (int i = 0; i < knots; ++i) {
-      if (i > 0) nested << (m_values[i] == m_values[i - 1] ? "," : "\n");
-      nested << m_values[i];
-    }
-    if (knots) nested << "\n";
-  }
-  out << "}\n";
+  igs_print_knots(out, "KnotVector = {", m_values.data(), number_of_knots());
 }
 
 void igs126::print_control_points(utOstream& out) const {
@@ -248,35 +223,10 @@ void igs126::check_flags() const {
   if (!valid(m_periodic)) raise_error<igs126InvalidPeriodicFlag>(m_periodic);
 }
 
-// A knot is compared with the greatest knot before it, so that one knot too low raises one
-// error, not two. The parameter range of the curve runs from knot k-1 to knot n-k.
 void igs126::check_knots() const {
-  int n = number_of_knots();
-  if (!n) return;
-  double const* knots = m_values.data();
-  double last = igs_unset_double;
-  for (int i = 0; i < n; ++i) {
-    if (igs_unset(knots[i])) raise_error<igs126UnsetKnot>(i);
-    if (last > knots[i])
-      raise_error<igs126KnotOutOfSequence>(i, knots[i], last);
-    else
-      last = knots[i];
-  }
-  int k = m_order;
-  if (k < 2) return;
-  double lo = knots[k - 1], hi = knots[n - k];
-  if (m_start < lo || m_start > hi) raise_error<igs126MinParamOutOfRange>(m_start, lo, hi);
-  if (m_end < lo || m_end > hi) raise_error<igs126MaxParamOutOfRange>(m_end, lo, hi);
-  if (lo >= hi) raise_error<igs126NoParamRange>(lo);
-  // Equal knots are multiple knots and pass.
-  double tolerance = kvnTolCoincBreakPoints.value();
-  for (int i = k - 1; i < n - k; ++i) {
-    double d = std::fabs(knots[i + 1] - knots[i]);
-    if (d > 0.0 && d < tolerance) {
-      raise_error<igs126KnotsTooClose>();
-      break;
-    }
-  }
+  check_knot_vector<igs126UnsetKnot, igs126KnotOutOfSequence, igs126MinParamOutOfRange,
+                    igs126MaxParamOutOfRange, igs126NoParamRange, igs126KnotsTooClose>(
+      m_values.data(), number_of_knots(), m_order, m_start, m_end);
 }
 
 // A curve of constant weights needs no test of each weight, and neither does a polynomial one
@@ -398,28 +348,15 @@ int igs126WeightsAndRatFlagDisagree::fix() {
   });
 }
 
-// Knots closer than the tolerance become multiple knots: from the top of the range down, a
-// close pair takes the upper knot's value; then from the bottom up, the lower knot's. The pair
-// at the bottom of the range is left as it is.
 int igs126KnotsTooClose::fix() {
   return repair_curve(key(), [](igs126& curve) {
-    double const tolerance = kvnTolCoincBreakPoints.value();
-    int const k = curve.order();
-    int const m = curve.number_of_knots() - k;
     auto at = [&curve](int i) {
       double value = 0.0;
       curve.knot(i, value);
       return value;
     };
-    for (int i = m; i > k; --i) {
-      double d = at(i) - at(i - 1);
-      if (!(d > 0.0 && d < tolerance)) break;
-      curve.set_knot(i - 1, at(i));
-    }
-    for (int i = k; i < m; ++i) {
-      double d = at(i + 1) - at(i);
-      if (d > 0.0 && d < tolerance) curve.set_knot(i + 1, at(i));
-    }
+    igs_pull_close_knots(curve.order(), curve.number_of_knots(), at,
+                         [&curve](int i, double value) { curve.set_knot(i, value); });
     return 1;
   });
 }

@@ -4,9 +4,10 @@
 
 #include "entities/igsEntity.h"
 #include "entities/igsEntityBases.h"
+#include "entities/igsSpline.h"
 #include "support/coNames.h"
 
-class igs126 : public igsCurve {
+class igs126 : public igsSplineEntity<igsCurve> {
   IGS_ENTITY_CLASS(igs126)
 
   // Sizes the curve, once: 1 when order >= 1 and size (the number of control points) >=
@@ -70,7 +71,8 @@ class igs126 : public igsCurve {
  private:
   // Gives the curve its order and size with room for `room` values, all unset.
   int size_curve(int order, int size, int room);
-  // Reads `count` values into the store from `first` on.
+  // Reads `count` values into the store from `first` on; a record that ends first has a count
+  // it does not hold, and the curve then has no size again.
   int read_values(igsInStream& in, int first, int count);
   int index_in(int index, int count) const { return index >= 0 && index < count; }
   double const* weights() const { return m_values.data() + number_of_knots(); }
