@@ -221,17 +221,19 @@ std::unique_ptr<igsFile> load(Options const& o, Messages& messages_sink, std::st
   int result = file->read(in, messages);
   if (progress) Progress::stop();
   // A read that stopped early still counts when it met entities, known to us or not, even
-  // ones whose records could not be read.
-  auto errors = tool_collect_errors(*file);
-  bool met_entities = file->num_entities() || file->num_nulls() || file->num_unknowns() ||
-                      std::any_of(errors.begin(), errors.end(), [](ToolErrorRecord const& e) {
-                        return e.class_name == "igsFileNoPDData";
-                      });
-  if (!result && !met_entities) {
-    problem = "'" + o.file + "' could not be read as an IGES file";
-    // What ended the reading, when the log knows it (a delimiter of the Global section).
-    if (!errors.empty()) problem += ": " + tool_error_text(errors.front());
-    return nullptr;
+  // ones whose records could not be read. The log is looked at only then: gathering it maps
+  // every entity, which a large file that read well need not pay for.
+  if (!result && file->num_entities() == 0 && file->num_nulls() == 0 && file->num_unknowns() == 0) {
+    auto errors = tool_collect_errors(*file);
+    bool const met_records =
+        std::any_of(errors.begin(), errors.end(),
+                    [](ToolErrorRecord const& e) { return e.class_name == "igsFileNoPDData"; });
+    if (!met_records) {
+      problem = "'" + o.file + "' could not be read as an IGES file";
+      // What ended the reading, when the log knows it (a delimiter of the Global section).
+      if (!errors.empty()) problem += ": " + tool_error_text(errors.front());
+      return nullptr;
+    }
   }
   return file;
 }

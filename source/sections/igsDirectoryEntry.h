@@ -140,22 +140,24 @@ class igsDirectoryEntry {
   static utString const& no_label();
   void set_parameter_line_count(int count) { m_parameter_line_count = count; }
 
-  int m_structure = 0;
+  // The fields of four bytes stand together, so that no padding parts them: a file holds one
+  // entry per entity.
   igsLineFont m_line_font;
   igsLevel m_level;
   igsObjectPtr m_view;
   igsObjectPtr m_matrix;
   igsObjectPtr m_label_display;
-  igsStatusFlags m_status_flags;
-  int m_line_weight_number = 0;
   igsColour m_colour;
-  int m_form_number = 0;
   utString m_entity_label = no_label();
+  igsObjectManager* m_manager = nullptr;
+  igsStatusFlags m_status_flags;
+  int m_structure = 0;
+  int m_line_weight_number = 0;
+  int m_form_number = 0;
   int m_entity_subscript = 0;
   igsEntityType m_entity_type = igsEntityTypeUnknown;
   int m_parameter_line_count = 0;
   int m_start_of_parameter_data = 0;
-  igsObjectManager* m_manager = nullptr;
 };
 
 utOstream& operator<<(utOstream& out, igsDirectoryEntry const& de);
