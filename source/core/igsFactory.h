@@ -101,15 +101,21 @@ class igsFactory {
 // The same for a class whose entities have an entity use of their own: the constructor sets it,
 // and the Directory Entry check demands it when IGS_DE_ENTITY_USE is among the steps.
 #define IGS_ENTITY_DEFINE_USE(Class, Base, type, form, de_steps, use)                              \
+  IGS_ENTITY_DEFINE_OWN_DE_USE(Class, Base, type, form, use)                                       \
+  void Class::check_de() const {                                                                   \
+    check_directory_entry(de_steps, use);                                                          \
+  }
+// The same for a class that writes its Directory Entry check by hand, where a test of its own
+// stands in the place of one of the usual steps.
+#define IGS_ENTITY_DEFINE_OWN_DE(Class, Base, type, form)                                          \
+  IGS_ENTITY_DEFINE_OWN_DE_USE(Class, Base, type, form, 0)
+#define IGS_ENTITY_DEFINE_OWN_DE_USE(Class, Base, type, form, use)                                 \
   KVU_DEFINE_TYPE(Class, Base)                                                                     \
   Class::Class() {                                                                                 \
     set_directory_entry_type(static_cast<igsEntityType>(type), form, use);                         \
   }                                                                                                \
   igsObject* Class::make_one() {                                                                   \
     return new (std::nothrow) Class;                                                               \
-  }                                                                                                \
-  void Class::check_de() const {                                                                   \
-    check_directory_entry(de_steps, use);                                                          \
   }                                                                                                \
   igsObject* igs_make_prototype_##Class();                                                         \
   igsObject* igs_make_prototype_##Class() {                                                        \

@@ -21,6 +21,12 @@ class igsLineFont : public igsDefinitionValue {
   igsObjectPtr const& line_font_definition() const { return definition(); }
   // The pattern when predefined; else the pattern that the definitions lead to.
   int pattern_value() const;
+  // Whether the pattern, through the definitions, is one of Solid to Dotted: what a line font
+  // definition's own Directory Entry must give.
+  int names_pattern() const {
+    int pattern = pattern_value();
+    return igsSolid <= pattern && pattern <= igsDotted;
+  }
   // The stored value when it is a pattern, else Solid.
   igsPattern pattern_type() const;
   // The pattern's name or "Unknown pattern"; "ig" and the DE number of a definition.
