@@ -97,6 +97,12 @@ inline void igs_read_field(igsInStream& in, igsObjectPtr& reference) {
   in.read_integer(de_number);
   reference = igsObjectPtr(de_number);
 }
+// A Hollerith string. One without text (a defaulted field, or 0H, which the stream does not
+// tell apart by the time a record is read) is null: no text was given.
+inline void igs_read_field(igsInStream& in, utString& text) {
+  in.read_holerith(text);
+  if (text.length() == 0) text = utString();
+}
 // Reads the fields in order.
 template <class... Field> void igs_read_fields(igsInStream& in, Field&... fields) {
   (igs_read_field(in, fields), ...);
@@ -121,6 +127,9 @@ void igs_write_field(igsOutStream& out, Triple const& value) {
 }
 inline void igs_write_field(igsOutStream& out, igsObjectPtr const& reference) {
   out.write_integer(reference ? reference->de_number() : 0);
+}
+inline void igs_write_field(igsOutStream& out, utString const& text) {
+  out.write_holerith(text);
 }
 // Writes the fields in order.
 template <class... Field> void igs_write_fields(igsOutStream& out, Field const&... fields) {

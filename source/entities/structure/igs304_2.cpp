@@ -34,7 +34,7 @@ int igs304_2::read_pd_data(igsInStream& in) {
       }))
     return 0;
   utString pattern;
-  in.read_holerith(pattern);
+  igs_read_field(in, pattern);
   m_pattern = pattern;
   return 1;
 }
@@ -42,7 +42,7 @@ int igs304_2::read_pd_data(igsInStream& in) {
 void igs304_2::write_pd_data(igsOutStream& out) {
   igs_write_field(out, m_lengths.size());
   for (double length : m_lengths) igs_write_field(out, length);
-  out.write_holerith(m_pattern);
+  igs_write_field(out, m_pattern);
 }
 
 void igs304_2::print_pd_data(utOstream&) const {}

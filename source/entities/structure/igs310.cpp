@@ -50,9 +50,7 @@ igsCharacter const& igs310::read_character(int index) const {
 int igs310::read_pd_data(igsInStream& in) {
   int font_code = 0, superseded = 0, scale = 0, count = 0;
   utString name;
-  igs_read_field(in, font_code);
-  in.read_holerith(name);
-  igs_read_fields(in, superseded, scale, count);
+  igs_read_fields(in, font_code, name, superseded, scale, count);
   m_font_code = font_code;
   m_font_name = name;
   m_superseded = superseded;
@@ -63,9 +61,7 @@ int igs310::read_pd_data(igsInStream& in) {
 }
 
 void igs310::write_pd_data(igsOutStream& out) {
-  igs_write_field(out, m_font_code);
-  out.write_holerith(m_font_name);
-  igs_write_fields(out, m_superseded, m_scale, m_characters.size());
+  igs_write_fields(out, m_font_code, m_font_name, m_superseded, m_scale, m_characters.size());
   for (igsCharacter const& c : m_characters) {
     giPoint2 const& next = c.next_start_point();
     igs_write_fields(out, c.ascii_code(), grid(next.x()), grid(next.y()), c.number_of_flags());

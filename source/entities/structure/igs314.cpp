@@ -27,17 +27,15 @@ int igs314::nearest_colour_number() const {
 // A blank name field leaves "none".
 int igs314::read_pd_data(igsInStream& in) {
   double red = 0.0, green = 0.0, blue = 0.0;
-  igs_read_fields(in, red, green, blue);
   utString name;
-  in.read_holerith(name);
+  igs_read_fields(in, red, green, blue, name);
   set_colours(red, green, blue);
   if (!name.is_null()) set_name(name);
   return 1;
 }
 
 void igs314::write_pd_data(igsOutStream& out) {
-  igs_write_fields(out, m_red, m_green, m_blue);
-  out.write_holerith(m_name);
+  igs_write_fields(out, m_red, m_green, m_blue, m_name);
 }
 
 void igs314::print_pd_data(utOstream&) const {}

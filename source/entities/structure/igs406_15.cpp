@@ -11,14 +11,13 @@ int igs406_15::read_pd_data(igsInStream& in) {
   igs_read_field(in, count);
   if (count != 1) return raise_error<igs406BadNumProperties>(), 0;
   utString name;
-  in.read_holerith(name);
+  igs_read_field(in, name);
   m_name = name;
   return 1;
 }
 
 void igs406_15::write_pd_data(igsOutStream& out) {
-  igs_write_field(out, 1);
-  out.write_holerith(m_name);
+  igs_write_fields(out, 1, m_name);
 }
 
 void igs406_15::print_pd_data(utOstream&) const {}

@@ -1,0 +1,161 @@
+// The line font, text font, text template, colour, name and external reference definitions: a
+// file of every class, each damage a file can carry with what check and repair make of it,
+// and the colour that a colour definition's own Directory Entry is repaired to.
+#include "entities/entityFamily.h"
+#include "entities/structure/igs312.h"
+#include "entities/structure/igs314.h"
+#include "entities/structure/igs416.h"
+#include "entities/structure/igsAttributeErrors.h"
+#include "sections/igsColour.h"
+
+using namespace igs_family_test;
+
+namespace {
+
+// Records: type, form, data, matrix, colour, status, line font.
+Family const attributes = {
+    "attributes",
+    "structure",
+    {
+        {304, 1, "304,0,3,2.5,0.5;", 0, 0, "00000000", 1},
+        {308, 0, "308,0,4HDASH,1,5;"},
+        {110, 0, "110,0.,0.,0.,1.,0.,0.;"},
+        {304, 2, "304,3,1.,0.5,0.25,2H5A;", 0, 0, "00000000", 2},
+        {310, 0, "310,1001,8HSTANDARD,1,8,2,65,10,0,3,1,0,0,0,4,8,0,8,0,66,12,0,2,1,0,0,0,0,8;"},
+        {310, 0, "310,1002,4HBOLD,-9,8,1,67,9,0,1,0,5,5;"},
+        {312, 0, "312,10.,2.,1,1.25,0.,0,0,1.,2.,3.;"},
+        {312, 1, "312,5.,1.,-11,0.,0.5,2,1,0.,0.,0.;"},
+        {314, 0, "314,100.,50.,0.,6HORANGE;", 0, 2},
+        {314, 0, "314,0.,0.,100.;", 0, 4}, // a blank name reads as "none"
+        {406, 15, "406,1,5HPLATE;"},
+        {416, 1, "416,9Hother.igs;"},
+        // A line of the colour and the line font that the definitions give.
+        {110, 0, "110,0.,0.,0.,0.,1.,0.;", 0, -17, "00000000", -7},
+    }};
+
+TEST(Attributes, TheFamilyFile) {
+  expect_family(attributes);
+}
+
+// The damaged entity stands first, at DE 1.
+Damage const damages[] = {
+    {"a colour definition whose own colour is none is given the nearest colour number",
+     {{314, 0, "314,50.,10.,50.,3HODD;"}},
+     {"@1 igs314InvalidDEColourNumber"},
+     {}},
+    {"a colour beyond the percentages, naming another definition",
+     {{314, 0, "314,101.,-1.,100.5;", 0, -3}, {314, 0, "314,0.,0.,0.;", 0, 1}},
+     {"@1 igs314InvalidBlueCoordinate", "@1 igs314InvalidDEColourNumber",
+      "@1 igs314InvalidGreenCoordinate", "@1 igs314InvalidRedCoordinate"},
+     {"@1 igs314InvalidBlueCoordinate", "@1 igs314InvalidGreenCoordinate",
+      "@1 igs314InvalidRedCoordinate"}},
+    {"a repeated subfigure line font of nothing, with no pattern of its own",
+     {{304, 1, "304,-1,0,0.,-1.;"}},
+     {"@1 igs304_1InvalidDELineFontPattern", "@1 igs304_1InvalidOrientationFlag(orientation=-1)",
+      "@1 igs304_1InvalidScale(scale=-1)", "@1 igs304_1InvalidSpacing(spacing=0)",
+      "@1 igs304_1NullSubfigurePointer"},
+     {"@1 igs304_1InvalidDELineFontPattern", "@1 igs304_1InvalidOrientationFlag(orientation=-1)",
+      "@1 igs304_1InvalidScale(scale=-1)", "@1 igs304_1InvalidSpacing(spacing=0)",
+      "@1 igs304_1NullSubfigurePointer"}},
+    {"a repeated subfigure line font that repeats a line, of orientation 2",
+     {{304, 1, "304,2,3,1.,1.;", 0, 0, "00000000", 5}, {110, 0, "110,0.,0.,0.,1.,0.,0.;"}},
+     {"@1 igs304_1InvalidOrientationFlag(orientation=2)", "@1 igs304_1InvalidSubfigure"},
+     {"@1 igs304_1InvalidOrientationFlag(orientation=2)", "@1 igs304_1InvalidSubfigure"}},
+    {"a pattern of a negative count and a digit that is none has no lengths to fault",
+     {{304, 2, "304,-1,2HG1;", 0, 0, "00000000", 1}},
+     {"@1 igs304_2InvalidSize", "@1 igs304_2InvalidString"},
+     {"@1 igs304_2InvalidSize", "@1 igs304_2InvalidString"}},
+    {"a pattern of negative lengths and no string, whose line font names itself",
+     {{304, 2, "304,2,-1.,-2.;", 0, 0, "00000000", -1}},
+     {"@1 igs304_2InvalidDELineFontPattern", "@1 igs304_2InvalidSegmentLength"},
+     {"@1 igs304_2InvalidDELineFontPattern", "@1 igs304_2InvalidSegmentLength"}},
+    {"a text font without name, characters or scale, superseding nothing",
+     {{310, 0, "310,1,,0,0,0;"}},
+     {"@1 igs310InvalidScale", "@1 igs310InvalidSize", "@1 igs310InvalidString",
+      "@1 igs310NullFontToSupersede"},
+     {"@1 igs310InvalidScale", "@1 igs310InvalidSize", "@1 igs310InvalidString",
+      "@1 igs310NullFontToSupersede"}},
+    {"a text font superseding a colour, with a character of no motion",
+     {{310, 0, "310,1,1HF,-3,8,2,65,9,0,0,66,9,0,1,0,1,1;"}, {314, 0, "314,0.,0.,0.;", 0, 1}},
+     {"@1 igs310InvalidCharacter(index=0)", "@1 igs310InvalidFontToSupersede"},
+     {"@1 igs310InvalidCharacter(index=0)", "@1 igs310InvalidFontToSupersede"}},
+    {"a text template without a box, of angles and flags out of range",
+     {{312, 0, "312,0.,-1.,1,1.7976931348623157D308,1.7976931348623157D308,3,2,0.,0.,0.;"}},
+     {"@1 igs312InvalidBoxHeight(height=-1)", "@1 igs312InvalidBoxLength(length=0)",
+      "@1 igs312InvalidRotationAngle(angle=1.79769e+308)",
+      "@1 igs312InvalidSlantAngle(angle=1.79769e+308)", "@1 igs312InvalidTextAlignmentFlag(value=2)",
+      "@1 igs312InvalidTextMirrorFlag(value=3)"},
+     {"@1 igs312InvalidBoxHeight(height=-1)", "@1 igs312InvalidBoxLength(length=0)",
+      "@1 igs312InvalidRotationAngle(angle=1.79769e+308)",
+      "@1 igs312InvalidSlantAngle(angle=1.79769e+308)", "@1 igs312InvalidTextAlignmentFlag(value=2)",
+      "@1 igs312InvalidTextMirrorFlag(value=3)"}},
+    {"a text template of a font code of no font keeps the font it had",
+     {{312, 0, "312,1.,1.,5,0.,0.,0,0,0.,0.,0.;"}},
+     {},
+     {},
+     {},
+     "312,1.,1.,1,0.,0.,0,0,0.,0.,0.;"},
+    {"a name property of two properties is given up as it is read",
+     {{406, 15, "406,2,1HA,1HB;"}, {116, 0, "116,0.,0.,0.,0;"}},
+     {"@1 igs406BadNumProperties", "@1 igsFileNoPDData(de_number=1)"},
+     {"@1 igs406BadNumProperties"},
+     "Warning : There is no Parameter Data associated with object DE 1.\n"},
+    {"a name property without a name",
+     {{406, 15, "406,1;"}},
+     {"@1 igs406NoString"},
+     {"@1 igs406NoString"}},
+    {"an external file reference without a file name",
+     {{416, 1, "416;"}},
+     {"@1 igs416InvalidExternalFileName"},
+     {"@1 igs416InvalidExternalFileName"}},
+};
+
+TEST(Attributes, EveryDamageIsFoundAndWhatCanBeRepairedIs) {
+  for (Damage const& damage : damages) expect_damage(damage);
+}
+
+// Each percentage counts as on from 50.0; the colour number that a colour definition's own
+// Directory Entry is repaired to is the nearest of the eight.
+TEST(Attributes, AColourDefinitionTakesTheNearestColourNumber) {
+  struct Row {
+    char const* data;
+    char const* name;
+  } const rows[] = {
+      {"314,49.9,49.9,49.9;", "Black"},  {"314,0.,0.,50.;", "Blue"},
+      {"314,0.,50.,0.;", "Green"},       {"314,0.,100.,100.;", "Cyan"},
+      {"314,50.,0.,0.;", "Red"},         {"314,50.,10.,50.;", "Magenta"},
+      {"314,100.,100.,0.;", "Yellow"},   {"314,50.,50.,50.;", "White"},
+  };
+  for (Row const& r : rows) {
+    int result = 0;
+    auto file = igs_test::read_text(file_text({{314, 0, r.data}}), result);
+    file->clean(0);
+    EXPECT_EQ(igsObjectPtr(1)->directory_entry().colour().colour_name(), utString(r.name))
+        << r.data;
+  }
+}
+
+// A line's colour definition gives the line its name; a font code of no font leaves the font
+// of a template as it was; a reference built in memory has form 0 and needs both names.
+TEST(Attributes, ADefinitionNamesItsColourAndWhatIsBuiltInMemoryIsChecked) {
+  int result = 0;
+  auto file = igs_test::read_text(file_text(attributes.records), result);
+  EXPECT_EQ(igsObjectPtr(25)->directory_entry().colour().colour_name(), utString("ORANGE"));
+  EXPECT_EQ(igsObjectPtr(25)->directory_entry().colour().colour_value(), 2);
+  // A font that names a definition that is not there is no font.
+  auto* text_template = new igs312;
+  text_template->set_font_code(-99);
+  EXPECT_EQ(text_template->word().font_code(), 0);
+  EXPECT_EQ(text_template->word().valid_font_code(), 0);
+  text_template->set_font_code(5);
+  EXPECT_EQ(text_template->word().font_code(), 0);
+  text_template->set_font_code(1001);
+  EXPECT_EQ(text_template->word().valid_font_code(), 1);
+  auto* reference = new igs416;
+  reference->set_external_file_name("a.igs");
+  EXPECT_EQ(reference->check(), 0);
+  reference->set_external_entity_name("PART");
+  EXPECT_EQ(reference->check(), 1);
+}
+
+} // namespace
