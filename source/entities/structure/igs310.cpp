@@ -38,6 +38,11 @@ void igs310::set_num_characters(int count) {
   m_characters.expand(count);
 }
 
+void igs310::set_superseded_font(int font) {
+  m_superseded = font;
+  m_superseded_definition = igsDefinitionValue::definition_of_field(font);
+}
+
 void igs310::add_character(igsCharacter const& character, int index) {
   m_characters.enter(index, character);
 }
@@ -53,7 +58,7 @@ int igs310::read_pd_data(igsInStream& in) {
   igs_read_fields(in, font_code, name, superseded, scale, count);
   m_font_code = font_code;
   m_font_name = name;
-  m_superseded = superseded;
+  set_superseded_font(superseded);
   m_scale = scale;
   m_count = count;
   return igs_read_members(in, count, m_characters,
@@ -61,7 +66,11 @@ int igs310::read_pd_data(igsInStream& in) {
 }
 
 void igs310::write_pd_data(igsOutStream& out) {
-  igs_write_fields(out, m_font_code, m_font_name, m_superseded, m_scale, m_characters.size());
+  // A definition superseded is written by its DE number in the file written.
+  igsObjectPtr const& superseded = m_superseded_definition;
+  igs_write_fields(out, m_font_code, m_font_name,
+                   superseded ? -superseded->de_number() : m_superseded, m_scale,
+                   m_characters.size());
   for (igsCharacter const& c : m_characters) {
     giPoint2 const& next = c.next_start_point();
     igs_write_fields(out, c.ascii_code(), grid(next.x()), grid(next.y()), c.number_of_flags());
@@ -80,11 +89,16 @@ void igs310::check_pd() const {
   if (m_superseded == 0) {
     raise_error<igs310NullFontToSupersede>();
   } else if (m_superseded < 0) {
-    igsObjectPtr font = igsDefinitionValue::definition_of_field(m_superseded);
+    igsObjectPtr const& font = m_superseded_definition;
     if (!font || !font->typeof(igs310::type())) raise_error<igs310InvalidFontToSupersede>();
   }
   if (m_count < 1) raise_error<igs310InvalidSize>();
   if (m_scale < 1) raise_error<igs310InvalidScale>();
   for (int i = 0; i < m_characters.size(); ++i)
     if (m_characters[i].number_of_pen_motions() < 1) raise_error<igs310InvalidCharacter>(i);
+}
+
+void igs310::unreference_children() {
+  igsObject::unreference_children();
+  m_superseded_definition.unreference();
 }

@@ -16,8 +16,9 @@ class igs310 : public igsStructure {
   void set_scale(int scale) { m_scale = scale; }
   void set_font_code(int code) { m_font_code = code; }
   void set_font_name(utString const& name) { m_font_name = name; }
-  // A font code if positive; minus the DE number of another text font definition if negative.
-  void set_superseded_font(int font) { m_superseded = font; }
+  // A font code if positive; minus the DE number of another text font definition if negative,
+  // which then is held as a reference too.
+  void set_superseded_font(int font);
   // Stores a copy at the index, growing the array to hold it; a negative index is ignored.
   void add_character(igsCharacter const& character, int index);
   // The character at an index in range, else an unset one.
@@ -29,6 +30,10 @@ class igs310 : public igsStructure {
   int font_code() const { return m_font_code; }
   utString const& font_name() const { return m_font_name; }
   int superseded_font() const { return m_superseded; }
+  igsObjectPtr const& superseded_definition() const { return m_superseded_definition; }
+
+ protected:
+  void unreference_children() override;
 
  private:
   int m_count = igs_unset_int;
@@ -36,5 +41,6 @@ class igs310 : public igsStructure {
   int m_font_code = igs_unset_int;
   utString m_font_name;
   int m_superseded = 0;
+  igsObjectPtr m_superseded_definition;
   coDynArr<igsCharacter> m_characters;
 };
