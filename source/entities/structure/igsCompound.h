@@ -7,6 +7,8 @@
 #include "entities/igsEntity.h"
 #include "entities/igsIndexList.h"
 
+#include <vector>
+
 // A counted list of members as an entity holds it: the count as it was read or set (a
 // negative or unset count stays as it came and leaves the list empty), the members, and the
 // index list from positions as read to current positions. Members are references or values
@@ -152,8 +154,22 @@ class igsCompound : public igsObject {
   // (igs_member_de_number).
   int entity_de_number(int original) const;
 
+  // Operations for a host (source/operations/igsCompoundFlattening.cpp). Each solid and shell
+  // among the members gives way to the faces of its shells; each group among the members to
+  // its members, flattened first. The solids, shells and groups stay in the file. A group that
+  // holds itself, through any depth, stays as a member where it comes back.
+  void explode_solids();
+  void flatten_groups();
+  // The curves on surfaces under the compound: members, members of groups and the members of
+  // the definitions that subfigure instances place, through any depth; each compound counted
+  // once on a path.
+  int count_142() const;
+
  protected:
   igsCompound() = default;
+  // Appends the faces of the shell (if it is one) to the list, each told its orientation in
+  // the shell and the DE number of its solid.
+  static void add_514_faces(igsObjectPtr const& shell, igsObjectPtrcoDynArr& list, int solid);
   void unreference_children() override;
 
   // Reads the entity pointers of the list.
@@ -173,6 +189,12 @@ class igsCompound : public igsObject {
   }
 
   igsEntityList m_entities;
+
+ private:
+  // Replaces the list by the new members.
+  void set_entities(igsObjectPtrcoDynArr const& members);
+  void flatten_groups(std::vector<igsCompound const*>& path);
+  int count_142(std::vector<igsCompound const*>& path) const;
 };
 
 // Whether at least two active object errors of the class `kind`, or derived from it, stand
