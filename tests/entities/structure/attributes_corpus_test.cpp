@@ -1,5 +1,7 @@
 // The line font, text font, text template, colour, name and external reference classes as
-// their accessors give their parameters, for the corpus test.
+// their accessors give their parameters, for the corpus test; and the colour, line font and
+// level of every entity of every real file through read, clean(0) and write.
+#include "core/roundTripCheck.h"
 #include "entities/entityFamily.h"
 #include "entities/structure/igs304_1.h"
 #include "entities/structure/igs304_2.h"
@@ -9,11 +11,13 @@
 #include "entities/structure/igs406_15.h"
 #include "entities/structure/igs416.h"
 
+#include <cstdio>
+
 using namespace igs_family_test;
 
 namespace {
 
-std::string text(utString const& s) {
+std::string text_of(utString const& s) {
   return std::string(s.view());
 }
 
@@ -24,11 +28,11 @@ CorpusRows const attributes = {
     row<igs304_2>([](igs304_2 const& e, Values& v) {
       v << e.number_of_segments();
       for (int i = 0; i < e.number_of_lengths(); ++i) v << e.length(i);
-      v.text(text(e.pattern_string()));
+      v.text(text_of(e.pattern_string()));
     }),
     row<igs310>([](igs310 const& e, Values& v) {
       v << e.font_code();
-      v.text(text(e.font_name()));
+      v.text(text_of(e.font_name()));
       v << e.superseded_font() << e.scale() << e.num_characters();
       for (int i = 0; i < e.number_of_shapes(); ++i) {
         igsCharacter const& c = e.read_character(i);
@@ -50,10 +54,101 @@ CorpusRows const attributes = {
     // A blank name reads as "none", which no field of the file holds.
     row<igs314>([](igs314 const& e, Values& v) {
       v << e.red() << e.green() << e.blue();
-      if (e.name() != utString("none")) v.text(text(e.name()));
+      if (e.name() != utString("none")) v.text(text_of(e.name()));
     }),
-    row<igs406_15>([](igs406_15 const& e, Values& v) { v << 1; v.text(text(e.entity_name())); }),
-    row<igs416>([](igs416 const& e, Values& v) { v.text(text(e.get_external_file_name())); }),
+    row<igs406_15>([](igs406_15 const& e, Values& v) { v << 1; v.text(text_of(e.entity_name())); }),
+    row<igs416>([](igs416 const& e, Values& v) { v.text(text_of(e.get_external_file_name())); }),
 };
+
+// An attribute of a Directory Entry as text that no DE number enters: a number, a definition
+// (a colour with its percentages and name), or "gone" for a definition that is not there.
+std::string definition_text(igsObject const& definition) {
+  if (!definition.isa(igs314::type())) return definition.objtype().name();
+  auto const& c = static_cast<igs314 const&>(definition);
+  char text[96];
+  std::snprintf(text, sizeof text, "rgb(%g,%g,%g)", c.red(), c.green(), c.blue());
+  return text + text_of(c.name());
+}
+std::string attribute_text(igsDefinitionValue const& v) {
+  if (v.definition()) return definition_text(*v.definition());
+  return v.value() < 0 ? "gone" : std::to_string(v.value());
+}
+std::string attributes_of(igsObject const& e) {
+  igsDirectoryEntry const& de = e.directory_entry();
+  return "font " + attribute_text(de.line_font()) + ", level " + attribute_text(de.level()) +
+         ", colour " + attribute_text(de.colour());
+}
+
+// The same from the D lines of the file: the fields, and the class the file makes of the
+// entity that a negative field names.
+struct DirectoryText {
+  std::vector<std::string> lines;
+  int field(int de, int line, int index) const {
+    std::string const& l = lines[static_cast<size_t>(de - 1 + line)];
+    return std::atoi(l.substr(static_cast<size_t>(8 * index), 8).c_str());
+  }
+  std::string attribute(int value) const {
+    if (value >= 0) return std::to_string(value);
+    int de = -value;
+    if (de % 2 == 0 || de >= static_cast<int>(lines.size())) return "gone";
+    std::string made = registered_class(field(de, 0, 0), field(de, 1, 4));
+    igsObjectPtr target(de);
+    if (made.empty() || made == "igsUnknown" || made == "igsNull" || !target) return "gone";
+    return definition_text(*target);
+  }
+  std::string attributes(int de) const {
+    return "font " + attribute(field(de, 0, 3)) + ", level " + attribute(field(de, 0, 4)) +
+           ", colour " + attribute(field(de, 1, 2));
+  }
+};
+
+// What a check finds fault with, a repair may change.
+int attributes_valid(igsObject const& e) {
+  igsDirectoryEntry const& de = e.directory_entry();
+  int own_colour = !e.isa(igs314::type()) || (de.colour().value() >= 1 && de.colour().value() <= 8);
+  return de.line_font().valid() && de.level().valid() && de.colour().valid() && own_colour;
+}
+
+TEST(AttributesCorpus, EveryColourLineFontAndLevelSurvivesReadRepairAndWrite) {
+  IGS_REQUIRE_CORPUS(files);
+  int entities = 0, definitions = 0;
+  for (auto const& path : files) {
+    SCOPED_TRACE(path.filename().string());
+    std::string const bytes = igs_test::read_file(path);
+    DirectoryText text;
+    std::istringstream lines(bytes);
+    for (std::string l; std::getline(lines, l);)
+      if (l.size() >= 73 && l[72] == 'D') text.lines.push_back(l);
+    int result = 0;
+    auto file = igs_test::read_text(bytes, result);
+    std::vector<std::string> before;
+    std::vector<int> valid;
+    for (igsFileIT it(file.get()); ++it;) {
+      if (it()->de_number() < static_cast<int>(text.lines.size())) {
+        EXPECT_EQ(attributes_of(*it()), text.attributes(it()->de_number()))
+            << "DE " << it()->de_number();
+      }
+      before.push_back(attributes_of(*it()));
+      valid.push_back(attributes_valid(*it()));
+      definitions += before.back().find("rgb(") != std::string::npos;
+    }
+    file->clean(0);
+    std::vector<std::string> repaired;
+    size_t i = 0;
+    for (igsFileIT it(file.get()); ++it; ++i) {
+      repaired.push_back(attributes_of(*it()));
+      if (i < before.size() && valid[i]) {
+        EXPECT_EQ(repaired.back(), before[i]) << "DE " << it()->de_number();
+      }
+    }
+    auto again = igs_test::read_text(igs_test::written_text(*file), result);
+    std::vector<std::string> written;
+    for (igsFileIT it(again.get()); ++it;) written.push_back(attributes_of(*it()));
+    EXPECT_EQ(written, repaired);
+    entities += static_cast<int>(written.size());
+  }
+  RecordProperty("entities", entities);
+  RecordProperty("definitions", definitions);
+}
 
 } // namespace
