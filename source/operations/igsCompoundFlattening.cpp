@@ -67,7 +67,7 @@ void igsCompound::flatten_groups() {
 
 void igsCompound::flatten_groups(std::vector<igsCompound const*>& path) {
   auto nested = [&path](igsObjectPtr const& m) {
-    return m && m->typeof(igsGroup::type()) && !on_path(path, m.operator->());
+    return m && m->typeof(igsGroup::type())&& !on_path(path, m.operator->());
   };
   path.push_back(this);
   if (std::any_of(m_entities.members().begin(), m_entities.members().end(), nested)) {

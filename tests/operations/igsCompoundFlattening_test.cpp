@@ -28,9 +28,9 @@ std::unique_ptr<igsFile> read(Records const& records) {
 }
 
 // A group of a line and a solid of one shell of three faces, the second reversed.
-Records const solid = {{402, 7, "402,2,3,5;"},        {110, 0, "110,0.,0.,0.,1.,0.,0.;"},
-                       {186, 0, "186,7,1,0;"},        {514, 1, "514,3,9,1,11,0,13,1;"},
-                       {510, 1, "510,0,0,0;"},        {510, 1, "510,0,0,0;"},
+Records const solid = {{402, 7, "402,2,3,5;"}, {110, 0, "110,0.,0.,0.,1.,0.,0.;"},
+                       {186, 0, "186,7,1,0;"}, {514, 1, "514,3,9,1,11,0,13,1;"},
+                       {510, 1, "510,0,0,0;"}, {510, 1, "510,0,0,0;"},
                        {510, 1, "510,0,0,0;"}};
 
 TEST(CompoundFlattening, ASolidGivesWayToItsFacesWhichLearnTheirSolidAndSide) {

@@ -20,7 +20,9 @@ class igs312 : public igsStructure {
   void set_form_number(int form);
 
  protected:
-  void set_box_dimensions(double length, double height) { m_word.set_box_dimensions(length, height); }
+  void set_box_dimensions(double length, double height) {
+    m_word.set_box_dimensions(length, height);
+  }
   void set_corner(giPoint3 const& corner) { m_word.set_start_point(corner); }
   void set_slant_angle(giAngle const& angle) { m_word.set_slant_angle(angle); }
   void set_rotation_angle(giAngle const& angle) { m_word.set_rotation_angle(angle); }

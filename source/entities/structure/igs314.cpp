@@ -18,8 +18,8 @@ utString definition_name(igsObject const& definition) {
 
 int igs314::nearest_colour_number() const {
   // Indexed by 4 for red on, 2 for green, 1 for blue.
-  static igsColourType const nearest[] = {igsBlack,  igsBlue,    igsGreen,  igsCyan,
-                                          igsRed,    igsMagenta, igsYellow, igsWhite};
+  static igsColourType const nearest[] = {igsBlack, igsBlue,    igsGreen,  igsCyan,
+                                          igsRed,   igsMagenta, igsYellow, igsWhite};
   int index = (m_red >= 50.0 ? 4 : 0) + (m_green >= 50.0 ? 2 : 0) + (m_blue >= 50.0 ? 1 : 0);
   return nearest[index];
 }

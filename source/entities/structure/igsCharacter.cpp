@@ -38,9 +38,8 @@ int igsCharacter::read_pen_status(int motion) const {
 }
 
 int igsCharacter::invalid() const {
-  return m_pen.size() == 0 || m_points.size() == 0 || m_start.invalid() ||
-         m_next_start.invalid() || m_motions <= 0 || m_scale <= 0 || m_next_x <= 0 ||
-         m_ascii_code < 0;
+  return m_pen.size() == 0 || m_points.size() == 0 || m_start.invalid() || m_next_start.invalid() ||
+         m_motions <= 0 || m_scale <= 0 || m_next_x <= 0 || m_ascii_code < 0;
 }
 
 void igsCharacter::add_point(giPoint2 const& point, int motion) {

@@ -56,7 +56,10 @@ CorpusRows const attributes = {
       v << e.red() << e.green() << e.blue();
       if (e.name() != utString("none")) v.text(text_of(e.name()));
     }),
-    row<igs406_15>([](igs406_15 const& e, Values& v) { v << 1; v.text(text_of(e.entity_name())); }),
+    row<igs406_15>([](igs406_15 const& e, Values& v) {
+      v << 1;
+      v.text(text_of(e.entity_name()));
+    }),
     row<igs416>([](igs416 const& e, Values& v) { v.text(text_of(e.get_external_file_name())); }),
 };
 

@@ -83,12 +83,12 @@ Damage const damages[] = {
      {{312, 0, "312,0.,-1.,1,1.7976931348623157D308,1.7976931348623157D308,3,2,0.,0.,0.;"}},
      {"@1 igs312InvalidBoxHeight(height=-1)", "@1 igs312InvalidBoxLength(length=0)",
       "@1 igs312InvalidRotationAngle(angle=1.79769e+308)",
-      "@1 igs312InvalidSlantAngle(angle=1.79769e+308)", "@1 igs312InvalidTextAlignmentFlag(value=2)",
-      "@1 igs312InvalidTextMirrorFlag(value=3)"},
+      "@1 igs312InvalidSlantAngle(angle=1.79769e+308)",
+      "@1 igs312InvalidTextAlignmentFlag(value=2)", "@1 igs312InvalidTextMirrorFlag(value=3)"},
      {"@1 igs312InvalidBoxHeight(height=-1)", "@1 igs312InvalidBoxLength(length=0)",
       "@1 igs312InvalidRotationAngle(angle=1.79769e+308)",
-      "@1 igs312InvalidSlantAngle(angle=1.79769e+308)", "@1 igs312InvalidTextAlignmentFlag(value=2)",
-      "@1 igs312InvalidTextMirrorFlag(value=3)"}},
+      "@1 igs312InvalidSlantAngle(angle=1.79769e+308)",
+      "@1 igs312InvalidTextAlignmentFlag(value=2)", "@1 igs312InvalidTextMirrorFlag(value=3)"}},
     {"a text template of a font code of no font keeps the font it had",
      {{312, 0, "312,1.,1.,5,0.,0.,0,0,0.,0.,0.;"}},
      {},
@@ -121,10 +121,10 @@ TEST(Attributes, AColourDefinitionTakesTheNearestColourNumber) {
     char const* data;
     char const* name;
   } const rows[] = {
-      {"314,49.9,49.9,49.9;", "Black"},  {"314,0.,0.,50.;", "Blue"},
-      {"314,0.,50.,0.;", "Green"},       {"314,0.,100.,100.;", "Cyan"},
-      {"314,50.,0.,0.;", "Red"},         {"314,50.,10.,50.;", "Magenta"},
-      {"314,100.,100.,0.;", "Yellow"},   {"314,50.,50.,50.;", "White"},
+      {"314,49.9,49.9,49.9;", "Black"}, {"314,0.,0.,50.;", "Blue"},
+      {"314,0.,50.,0.;", "Green"},      {"314,0.,100.,100.;", "Cyan"},
+      {"314,50.,0.,0.;", "Red"},        {"314,50.,10.,50.;", "Magenta"},
+      {"314,100.,100.,0.;", "Yellow"},  {"314,50.,50.,50.;", "White"},
   };
   for (Row const& r : rows) {
     int result = 0;
