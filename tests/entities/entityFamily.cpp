@@ -105,7 +105,8 @@ std::string registered_class(int type, int form) {
 
 std::string file_text(Records const& records) {
   igs_read_test::FileText text;
-  for (Record const& r : records) text.add(r.type, r.form, cut(r.data), r.matrix);
+  for (Record const& r : records)
+    text.entity(text.add(r.type, r.form, cut(r.data), r.matrix)).line_font = r.line_font;
   return text.text();
 }
 
