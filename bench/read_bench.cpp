@@ -437,4 +437,50 @@ void BM_ReadBsplineCurves(benchmark::State& state) {
 BENCHMARK(BM_ReadBsplineCurves)->Unit(benchmark::kMillisecond)->Iterations(3);
 // ---- End of the B-spline curves.
 
+// ---- Surfaces: planes, spline, swept and analytic surfaces on their points, lines and arcs.
+// Each unit holds a point, two directions, a line and an arc; a bounded plane on the arc; a
+// ruled surface, a surface of revolution and a tabulated cylinder on the line and the arc; a
+// plane surface, cylinder, cone, sphere and torus in their parameterised form on the point and
+// the directions; and a spline surface of two by two patches.
+
+Generated generate_surfaces(std::size_t at_least) {
+  RecordText file;
+  Reals reals;
+  auto values = [&](int count) {
+    std::string text;
+    for (int i = 0; i < count; ++i) {
+      text += ',';
+      text += reals.next();
+    }
+    return text;
+  };
+  // A pointer field to the DE number.
+  auto to = [](int de) { return std::string(",").append(std::to_string(de)); };
+  while (file.d.size() + file.p.size() < at_least) {
+    std::string point = to(file.add(116, 0, values(3) + ",0"));
+    std::string axis = to(file.add(123, 0, ",0.,0.,1."));
+    std::string reference = to(file.add(123, 0, ",1.,0.,0."));
+    std::string line = to(file.add(110, 0, values(6)));
+    std::string arc = to(file.add(100, 0, ",0.,0.,0.,1.,0.,-1.,0."));
+    file.add(108, 1, ",0.,0.,1.," + reals.next() + arc + values(3) + ",1.");
+    file.add(118, 0, line + arc + ",0,0");
+    file.add(120, 0, line + arc + ",0.,3.14159265358979");
+    file.add(122, 0, arc + values(3));
+    file.add(190, 1, point + axis + reference);
+    file.add(192, 1, point + axis + ",2.5" + reference);
+    file.add(194, 1, point + axis + ",2.5,30." + reference);
+    file.add(196, 1, point + ",4." + axis + reference);
+    file.add(198, 1, point + axis + ",5.,1." + reference);
+    file.add(114, 0, ",3,1,1,1,0.,1.,0.,1." + values(4 * 48));
+  }
+  return file.text();
+}
+
+void BM_ReadSurfaces(benchmark::State& state) {
+  static Generated const g = generate_surfaces(50u << 20);
+  measure_read(state, g);
+}
+BENCHMARK(BM_ReadSurfaces)->Unit(benchmark::kMillisecond)->Iterations(3);
+// ---- End of the surfaces.
+
 } // namespace

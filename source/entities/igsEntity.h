@@ -6,13 +6,13 @@
 #include "core/igsFactory.h"
 #include "core/igsObject.h"
 #include "core/igsObjectPtr.h"
+#include "core/igsUnset.h"
 #include "input/igsInStream.h"
 #include "output/igsOutStream.h"
 #include "sections/igsDECheck.h"
 #include "sections/igsDirectoryEntry.h"
 #include "support/coResource.h"
 #include "support/giGeometry.h"
-#include "core/igsUnset.h"
 #include "support/utOstream.h"
 
 #include <type_traits>
@@ -23,6 +23,24 @@ template <class Value> int igs_set_valid(Value& field, Value const& value) {
   if (value.invalid()) return 0;
   field = value;
   return 1;
+}
+
+// The rule of the setters of references that must be there: a null one leaves the field as it
+// was and gives 0.
+inline int igs_set_reference(igsObjectPtr& field, igsObjectPtr const& reference) {
+  if (!reference) return 0;
+  field = reference;
+  return 1;
+}
+
+// A flag of 0 or 1, compared as unsigned so that a negative value fails too.
+inline int igs_flag_valid(int flag) {
+  return static_cast<unsigned>(flag) <= 1u;
+}
+
+// "One" for 1, "zero" for 0, "other" for anything else.
+inline char const* igs_flag_word(int flag, char const* one, char const* zero, char const* other) {
+  return flag == 1 ? one : flag == 0 ? zero : other;
 }
 
 // The most elements that a count read from a file reserves at once. A larger count (often a
@@ -123,6 +141,22 @@ inline void igs_write_field(igsOutStream& out, igsObjectPtr const& reference) {
 template <class... Field> void igs_write_fields(igsOutStream& out, Field const&... fields) {
   (igs_write_field(out, fields), ...);
 }
+
+// Writes the reals of the stream with the parametric precision while it stands: knots, angles
+// and the other values that are no coordinates.
+class igsParametricFormat {
+ public:
+  explicit igsParametricFormat(igsOutStream& out) : m_out(out) {
+    m_out.push_double_format(kvnOptDoubleFieldWidth.value(),
+                             kvnOptDoubleParametricPrecision.value());
+  }
+  ~igsParametricFormat() { m_out.pop_double_format(); }
+  igsParametricFormat(igsParametricFormat const&) = delete;
+  igsParametricFormat& operator=(igsParametricFormat const&) = delete;
+
+ private:
+  igsOutStream& m_out;
+};
 
 // "Label = {", then on a nested stream the referenced entity or "(NullPointer)", then "}".
 void igs_print_reference(utOstream& out, char const* label, igsObjectPtr const& reference);

@@ -20,3 +20,6 @@ enum igsDECheckStep : unsigned {
 inline constexpr unsigned IGS_DE_ALL = IGS_DE_LINE_FONT | IGS_DE_LEVEL | IGS_DE_MATRIX |
                                        IGS_DE_COLOUR | IGS_DE_STATUS | IGS_DE_LINE_WEIGHT |
                                        IGS_DE_SUBSCRIPT;
+// The full list but the matrix, for the entities that a matrix of their own does not
+// transform.
+inline constexpr unsigned igs_de_without_matrix = IGS_DE_ALL & ~IGS_DE_MATRIX;

@@ -7,6 +7,7 @@
 #include "core/igsCurrentFileScope.h"
 #include "core/igsFile.h"
 #include "core/igsObject.h"
+#include "core/igsObjectSystem.h"
 #include "core/writtenFileCheck.h"
 #include "sections/igsDirectoryEntry.h"
 #include "support/utOstream.h"
@@ -39,8 +40,9 @@ inline std::unique_ptr<igsFile> read_text(std::string const& text, int& result) 
 }
 
 // The print of each entity in slot order, without the blocks of Directory Entries (their
-// fields are compared as numbers), with the file current so that each print is a walk of its
-// own file. What stays are the values of the parameter data, of referenced entities too.
+// fields are compared as numbers), with the file current, all in one walk of that file: an
+// entity's contents print once, under the first entity that shows them. What stays are the
+// values of the parameter data, of referenced entities too.
 //
 // The Directory Entry's print is left out because it shows how a definition pointer is bound,
 // and a pointer whose definition was dropped after reading (an entity of a class the library
@@ -48,6 +50,8 @@ inline std::unique_ptr<igsFile> read_text(std::string const& text, int& result) 
 inline std::vector<std::string> entity_prints(igsFile const& file) {
   igsCurrentFileScope current(file);
   std::vector<std::string> prints;
+  // One walk, or a curve would print again under every edge list and loop above it.
+  igsObjectSystem::reentrant_start();
   for (igsFileIT it(&file); ++it;) {
     std::ostringstream text;
     utOstream out(text);
@@ -69,6 +73,7 @@ inline std::vector<std::string> entity_prints(igsFile const& file) {
     }
     prints.push_back(print);
   }
+  igsObjectSystem::reentrant_end();
   return prints;
 }
 

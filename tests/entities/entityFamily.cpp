@@ -105,8 +105,11 @@ std::string registered_class(int type, int form) {
 
 std::string file_text(Records const& records) {
   igs_read_test::FileText text;
-  for (Record const& r : records)
-    text.entity(text.add(r.type, r.form, cut(r.data), r.matrix)).line_font = r.line_font;
+  for (Record const& r : records) {
+    auto& entity = text.entity(text.add(r.type, r.form, cut(r.data), r.matrix));
+    entity.colour = r.colour;
+    entity.line_font = r.line_font;
+  }
   return text.text();
 }
 
@@ -141,7 +144,8 @@ void expect_damage(Damage const& damage) {
   std::string const text = file_text(damage.records);
   if (char const* dir = std::getenv("IGS_DAMAGE_FILES"); dir && *dir) {
     std::string name = damage.what;
-    std::replace_if(name.begin(), name.end(), [](char c) { return !std::isalnum(c); }, '_');
+    std::replace_if(
+        name.begin(), name.end(), [](char c) { return !std::isalnum(c); }, '_');
     std::ofstream(std::filesystem::path(dir) / (name.substr(0, 60) + ".igs"), std::ios::binary)
         << text;
   }

@@ -99,13 +99,14 @@ inline CorpusRow const* corpus_row(kvuTypeInfo const& type) {
 }
 
 // One entity of a test file: type, form and the whole parameter record, which the file cuts
-// into P lines behind its delimiters, the DE number of its transformation matrix and the line
-// font number of its Directory Entry (given by name: {.type = ..., .line_font = 1}).
+// into P lines behind its delimiters, the DE number of its transformation matrix, and the colour
+// and line font numbers of its Directory Entry (given by name: {.type = ..., .line_font = 1}).
 struct Record {
   int type;
   int form;
   std::string data;
   int matrix = 0;
+  int colour = 0;
   int line_font = 0;
 };
 using Records = std::vector<Record>;

@@ -1,9 +1,9 @@
 // What the entities of the boundary representation share: list indices that are 0-based here
-// and 1-based in the file, elements of their lists reached without leaving the list, the check
-// of a reference to a child, the printing of flags and numbered records, and the repairs that
-// wait for a child's own repairs.
+// and 1-based in the file, elements of their lists reached without leaving the list, and the
+// printing of numbered records.
 #pragma once
 
+#include "entities/igsChildCheck.h"
 #include "entities/igsEntity.h"
 #include "support/coDynArr.h"
 
@@ -22,11 +22,6 @@ inline int igs_index_to_file(int index) {
 inline int igs_index_in(int index, int count) {
   return index >= 0 && index < count;
 }
-// A flag of 0 or 1, compared as unsigned so that a negative value fails too.
-inline int igs_flag_valid(int flag) {
-  return static_cast<unsigned>(flag) <= 1u;
-}
-
 // The element at the index; a default-made one for an index outside the list, so that an
 // accessor whose caller left the range still gives a defined value.
 template <class T> T const& igs_element(coDynArr<T> const& list, int index) {
@@ -123,19 +118,6 @@ template <class T> class igsExactArray {
   int m_size = 0;
 };
 
-// The kinds of child that a reference may name: any class derived from T, or exactly T.
-template <class T> int igs_kind_of(igsObject const& object) {
-  return object.typeof(T::type());
-}
-template <class T> int igs_exactly(igsObject const& object) {
-  return object.isa(T::type());
-}
-
-// "One" for 1, "zero" for 0, "other" for anything else.
-inline char const* igs_flag_word(int flag, char const* one, char const* zero, char const* other) {
-  return flag == 1 ? one : flag == 0 ? zero : other;
-}
-
 // "Label (n) = {" and the opening's tail, with n counted from 1; then what `inner` prints one
 // tab level deeper; then "}".
 template <class Inner>
@@ -149,66 +131,8 @@ void igs_print_numbered(utOstream& out, char const* label, int index, char const
   out << "}\n";
 }
 
-// The base of the classes that check references to their children, between the entity class
-// and the base of the class tree (which stays Base for `typeof`).
-template <class Base> class igsBrepEntity : public Base {
- protected:
-  igsBrepEntity() = default;
-
-  // The faults of a reference to a child that must be there, in this order: Null when it is
-  // null (and nothing more), Wrong when the child is not of the kind that `kind` accepts, and
-  // Invalid when the child fails its own check, which runs after a wrong kind too. Each error
-  // is made with the arguments. 1 when the child is there, of its kind and sound.
-  template <class Null, class Wrong, class Invalid, class... A>
-  int check_child(igsObjectPtr const& child, int (*kind)(igsObject const&),
-                  A... arguments) const {
-    if (!child) {
-      this->template raise_error<Null>(arguments...);
-      return 0;
-    }
-    int usable = 1;
-    if (!kind(*child)) {
-      this->template raise_error<Wrong>(arguments...);
-      usable = 0;
-    }
-    if (!child->check()) {
-      this->template raise_error<Invalid>(arguments...);
-      usable = 0;
-    }
-    return usable;
-  }
-};
-
-// 1 when the entity under the DE number has no active errors left: the repair of an error that
-// says a child failed its check succeeds once the child's own repairs have cleared it.
-inline int igs_child_is_clean(int de_number) {
-  igsObjectPtr child(de_number);
-  return de_number && child && child->num_logged_errors() == 0;
-}
-
-// The `obj` of an error that names a child of the entity under its key, of class Owner:
-// `child(owner, error)` gives the child, or null when there is none any more. Found at the
-// first call and held; 0 while no child is found.
-#define IGS_CHILD_OBJ(Name, Owner, child)                                                          \
-  int Name::obj() {                                                                                \
-    if (!cached_obj())                                                                             \
-      if (Owner const* owner = igs_error_entity<Owner>(key()))                                     \
-        if (igsObject const* found = child(*owner, *this)) set_cached_obj(found->de_number());     \
-    return cached_obj();                                                                           \
-  }
-
-// `obj` as above, and the repair that changes nothing and settles the error exactly when the
-// child has no active errors left.
-#define IGS_CHILD_REPAIR(Name, Owner, child)                                                       \
-  IGS_CHILD_OBJ(Name, Owner, child)                                                                \
-  int Name::fix() {                                                                                \
-    return igs_child_is_clean(obj());                                                              \
-  }
-
-// The target of a reference, or null.
-inline igsObject const* igs_target(igsObjectPtr const& reference) {
-  return reference ? reference.operator->() : nullptr;
-}
+// The entities of the boundary representation check their children as every entity does.
+template <class Base> using igsBrepEntity = igsChildEntity<Base>;
 
 // A reference with the flag that says whether it agrees (1) or not (0) with what it refers to:
 // what an oriented face and an oriented shell share. A value.

@@ -1,6 +1,5 @@
 #include "entities/structure/igs123.h"
 
-#include "entities/structure/igsStructureCommon.h"
 #include "entities/structure/igsStructureErrors.h"
 
 IGS_ENTITY_DEFINE(igs123, igsObject, 123, 0, igs_de_without_matrix)

@@ -1,6 +1,5 @@
 #include "entities/structure/igs124.h"
 
-#include "entities/structure/igsStructureCommon.h"
 #include "entities/structure/igsStructureErrors.h"
 
 #include <cmath>

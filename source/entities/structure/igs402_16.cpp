@@ -1,7 +1,6 @@
 #include "entities/structure/igs402_16.h"
 
 #include "entities/structure/igs124.h"
-#include "entities/structure/igsStructureCommon.h"
 #include "entities/structure/igsStructureErrors.h"
 
 IGS_ENTITY_DEFINE(igs402_16, igsGroup, 402, 16, igs_de_without_matrix)

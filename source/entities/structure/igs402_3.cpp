@@ -1,7 +1,6 @@
 #include "entities/structure/igs402_3.h"
 
 #include "entities/structure/igs410_0.h"
-#include "entities/structure/igsStructureCommon.h"
 #include "entities/structure/igsStructureErrors.h"
 
 IGS_ENTITY_DEFINE(igs402_3, igsCompound, 402, 3, igs_de_without_matrix)

@@ -1,7 +1,6 @@
 #include "entities/structure/igs404.h"
 
 #include "entities/structure/igs410_0.h"
-#include "entities/structure/igsStructureCommon.h"
 #include "entities/structure/igsStructureErrors.h"
 
 IGS_ENTITY_DEFINE(igs404, igsCompound, 404, 0, igs_de_without_matrix)

@@ -1,7 +1,6 @@
 #include "entities/structure/igs408.h"
 
 #include "entities/structure/igs308.h"
-#include "entities/structure/igsStructureCommon.h"
 #include "entities/structure/igsStructureErrors.h"
 
 IGS_ENTITY_DEFINE(igs408, igsDefinition, 408, 0, igs_de_without_matrix)

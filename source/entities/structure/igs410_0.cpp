@@ -1,6 +1,5 @@
 #include "entities/structure/igs410_0.h"
 
-#include "entities/structure/igsStructureCommon.h"
 #include "sections/igsEntityKind.h"
 
 #include <cmath>

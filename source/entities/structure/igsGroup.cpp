@@ -1,6 +1,5 @@
 #include "entities/structure/igsGroup.h"
 
-#include "entities/structure/igsStructureCommon.h"
 #include "entities/structure/igsStructureErrors.h"
 
 IGS_ENTITY_DEFINE(igsGroup, igsCompound, 402, 14, igs_de_without_matrix)

@@ -153,21 +153,34 @@ Damage const damages[] = {
      {"@1 igsSCPCNotClosed(tolerance=1e-06)"}},
 
     // Rational B-spline curves.
-    {"knots: a little below the greatest before joins it (DE 1), far below stays (3); too close "
-     "at the bottom of the range stays too (5)",
+    {"knots: a little below the greatest before joins it (DE 1); far below, or below by the "
+     "tolerance, stays, each compared with the greatest before it (3, 7); too close down to the "
+     "bottom of the range stays there (5). K=3, M=1: six knots, four control points.",
      {{126, 0,
-       "126,3,1,0,0,1,0,0.,0.,.5,.4999999995,1.,1.,1.,1.,1.,1.,0.,0.,0.,1.,0.,0.,2.,0.,0.,3.,0.,"
-       "0.,0.,1.;"},
-      {126, 0, "126,2,1,0,0,1,0,0.,0.,2.,1.,3.,1.,1.,1.,0.,0.,0.,1.,0.,0.,2.,0.,0.,0.,1.;"},
-      {126, 0, "126,2,1,0,0,1,0,0.,0.,5.D-10,1.,1.,1.,1.,1.,0.,0.,0.,1.,0.,0.,2.,0.,0.,0.,1.;"}},
+       "126,3,1,0,0,1,0,0.,0.,.5,.4999999995,1.,1.,1.,1.,1.,1.,0.,0.,0.,1.,0.,0.,2.,0.,0.,"
+       "3.,0.,0.,0.,1.;"},
+      {126, 0,
+       "126,3,1,0,0,1,0,0.,0.,2.,1.,1.5,3.,1.,1.,1.,1.,0.,0.,0.,1.,0.,0.,2.,0.,0.,3.,0.,0.,"
+       "0.,1.5;"},
+      {126, 0,
+       "126,3,1,0,0,1,0,0.,0.,3.D-10,6.D-10,9.D-10,9.D-10,1.,1.,1.,1.,0.,0.,0.,1.,0.,0.,"
+       "2.,0.,0.,3.,0.,0.,0.,9.D-10;"},
+      {126, 0,
+       "126,3,1,0,0,1,0,0.,0.,1.D-9,0.,1.,1.,1.,1.,1.,1.,0.,0.,0.,1.,0.,0.,2.,0.,0.,3.,0.,"
+       "0.,0.,1.;"}},
      {"@1 igs126KnotOutOfSequence(index=3,knot=0.5,last=0.5)", "@1 igs126KnotsTooClose",
-      "@3 igs126KnotOutOfSequence(index=3,knot=1,last=2)", "@5 igs126KnotsTooClose"},
-     {"@3 igs126KnotOutOfSequence(index=3,knot=1,last=2)", "@5 igs126KnotsTooClose"},
+      "@3 igs126KnotOutOfSequence(index=3,knot=1,last=2)",
+      "@3 igs126KnotOutOfSequence(index=4,knot=1.5,last=2)", "@5 igs126KnotsTooClose",
+      "@7 igs126KnotOutOfSequence(index=3,knot=0,last=1e-09)"},
+     {"@3 igs126KnotOutOfSequence(index=3,knot=1,last=2)",
+      "@3 igs126KnotOutOfSequence(index=4,knot=1.5,last=2)", "@5 igs126KnotsTooClose",
+      "@7 igs126KnotOutOfSequence(index=3,knot=0,last=1e-09)"},
      "",
      "126,3,1,0,0,1,0,0.,0.,0.5,0.5,1.,1.,1.,1.,1.,1.,0.,0.,0.,1.,0.,0.,2.,0.,0.,3.,0.,0.,0.,1.,0.,"
      "0.,0.;",
-     // DE 5, the third curve, is DE 3 once the second has gone. Its repair changes nothing
-     // there: the log forgets the error, the next check finds it again.
+     // DE 5, the third curve, is DE 3 once the second has gone. Its repair made its knots
+     // multiple down to the bottom pair, which stays close: the log forgets the error, the
+     // next check finds it again.
      {"@3 igs126KnotsTooClose"}},
     {"knots too close become multiple knots, from the top down and from the bottom up",
      {{126, 0,
@@ -180,14 +193,14 @@ Damage const damages[] = {
      "3.,0.,0.,4.,0.,0.,5.,0.,0.,0.,1.,0.,0.,0.;"},
     {"limits outside the knots' range are pulled back to it; limits in the wrong order are set "
      "to it",
-     {{126, 0, "126,2,1,0,0,1,0,0.,0.,.5,1.,1.,1.,1.,1.,0.,0.,0.,1.,0.,0.,2.,0.,0.,-.5,1.5;"},
-      {126, 0, "126,2,1,0,0,1,0,0.,0.,.5,1.,1.,1.,1.,1.,0.,0.,0.,1.,0.,0.,2.,0.,0.,.75,.25;"}},
+     {{126, 0, "126,2,1,0,0,1,0,-1.,0.,.5,1.,2.,1.,1.,1.,0.,0.,0.,1.,0.,0.,2.,0.,0.,-.5,1.5;"},
+      {126, 0, "126,2,1,0,0,1,0,-1.,0.,.5,1.,2.,1.,1.,1.,0.,0.,0.,1.,0.,0.,2.,0.,0.,.75,.25;"}},
      {"@1 igs126MaxParamOutOfRange(value=1.5,lo=0,hi=1)",
       "@1 igs126MinParamOutOfRange(value=-0.5,lo=0,hi=1)",
       "@3 igs126TrimParamsOutOfSequence(start=0.75,end=0.25)"},
      {},
      "",
-     "126,2,1,0,0,1,0,0.,0.,0.5,1.,1.,1.,1.,1.,0.,0.,0.,1.,0.,0.,2.,0.,0.,0.,1.,0.,0.,0.;"},
+     "126,2,1,0,0,1,0,-1.,0.,0.5,1.,2.,1.,1.,1.,0.,0.,0.,1.,0.,0.,2.,0.,0.,0.,1.,0.,0.,0.;"},
     {"curves of no degree, no control points beyond the first, or fewer than their degree are "
      "not read",
      {{126, 0, "126,3,0,0,0,1,0,0.,1.;"},
@@ -230,19 +243,23 @@ Damage const damages[] = {
 
     // Composite curves.
     {"no members (DE 1), a negative count (3), a member that names no entity (5), a lone point "
-     "(7), a point set of vectors, which has no conversion (9)",
+     "(7); point sets that cannot be converted: one of vectors (9), one with errors (11)",
      {{102, 0, "102,0;"},
       {102, 0, "102,-1;"},
-      {102, 0, "102,2,11,99;"},
-      {102, 0, "102,1,13;"},
+      {102, 0, "102,2,13,99;"},
       {102, 0, "102,1,15;"},
+      {102, 0, "102,1,17;"},
+      {102, 0, "102,1,19;"},
       {110, 0, "110,0.,0.,0.,1.,0.,0.;"},
       {116, 0, "116,1.,0.,0.,0;"},
-      {106, 3, "106,3,1,0.,0.,0.,1.,0.,0.;"}},
-     {"@1 igs102NoSubCurves", "@3 igs102BadNumCurves(count=-1)", "@3 igsFileNoPDData(de_number=3)",
-      "@5 igs102NullSubCurvePtr(position=1)", "@7 igs102OnlyPoint",
-      "@9 igs102InvalidSubCurveType(position=0)"},
-     {"@1 igs102NoSubCurves", "@3 igs102BadNumCurves(count=-1)",
+      {106, 3, "106,3,1,0.,0.,0.,1.,0.,0.;"},
+      {106, 2, "106,2,0;"}},
+     {"@1 igs102NoSubCurves", "@11 igs102InvalidSubCurveType(position=0)",
+      "@19 igsPointsetNoPoints", "@3 igs102BadNumCurves(count=-1)",
+      "@3 igsFileNoPDData(de_number=3)", "@5 igs102NullSubCurvePtr(position=1)",
+      "@7 igs102OnlyPoint", "@9 igs102InvalidSubCurveType(position=0)"},
+     {"@1 igs102NoSubCurves", "@11 igs102InvalidSubCurveType(position=0)",
+      "@19 igsPointsetNoPoints", "@3 igs102BadNumCurves(count=-1)",
       "@5 igs102NullSubCurvePtr(position=1)", "@7 igs102OnlyPoint",
       "@9 igs102InvalidSubCurveType(position=0)"},
      "Warning : There is no Parameter Data associated with object DE 3.\n"},
@@ -456,14 +473,18 @@ TEST_F(CurveSetters, BsplineCurves) {
             (Errors{"igs126InvalidUnitNormal", "igs126WeightsAndRatFlagDisagree(tested=0)"}));
   EXPECT_FALSE(curve->set_unit_normal(giVector3()));
   EXPECT_TRUE(curve->set_unit_normal(giVector3(0, 0, 1)));
-  // Weights nearly equal: a polynomial curve passes, a rational one has each tested.
+  // Weights apart by the tolerance: a polynomial curve passes, a rational one has each tested.
   curve->set_rational_flag(0);
-  ASSERT_TRUE(curve->set_weight(1, 1.0000000001));
+  for (int i = 0; i < 3; ++i) ASSERT_TRUE(curve->set_weight(i, i == 1 ? 2e-9 : 1e-9));
   EXPECT_EQ(checked(*curve), Errors{});
   curve->set_rational_flag(1);
   ASSERT_TRUE(curve->set_weight(1, igs_unset_double));
   ASSERT_TRUE(curve->set_weight(2, 1e-16));
   EXPECT_EQ(checked(*curve), (Errors{"igs126UnsetWeight(index=1)", "igs126ZeroWeight(index=2)"}));
+  // A repair whose number names no curve does nothing.
+  auto* stale = new igs126NoParamRange(0.0);
+  stale->set_key((new igs110)->de_number());
+  EXPECT_EQ(stale->fix(), 0);
 }
 
 // Order 2 and 13201 control points: 66007 values, more than the first reservation holds. The
@@ -509,12 +530,13 @@ TEST_F(CurveSetters, CompositeCurves) {
   ASSERT_TRUE(composite->set_sub_curve(3, igsObjectPtr(lines[2])));
   EXPECT_EQ(written(*composite), records({"102,4,0,0,0,7;"}));
   composite->set_size(-1);
-  composite->set_size(2);
-  EXPECT_EQ(composite->number_of_sub_curves(), 2);
+  EXPECT_EQ(composite->number_of_sub_curves(), 4);
+  composite->set_size(0);
+  EXPECT_EQ(composite->number_of_sub_curves(), 0);
   for (int i = 0; i < 3; ++i) ASSERT_TRUE(composite->set_sub_curve(i, igsObjectPtr(lines[i])));
   igsObjectPtr member;
   EXPECT_FALSE(composite->sub_curve(3, member) || composite->sub_curve(-1, member));
-  EXPECT_EQ(composite->get_index(2), 2);
+  EXPECT_EQ(composite->get_index(0) + composite->get_index(2), 2);
   EXPECT_EQ(composite->get_index(3), -1);
   EXPECT_FALSE(composite->remove_sub_curve(3));
   ASSERT_TRUE(composite->remove_sub_curve(0));

@@ -47,6 +47,8 @@ Family const structure = {
         {408, 0, "408,31,1.,2.,3.,2.;"},
         {308, 0, "308,1,3HTOP,1,33;"},
         {408, 0, "408,35,0.,0.,0.;"}, // a blank scale reads as 0, which passes
+        {402, 15, "402,0;"},          // empty lists are sound
+        {402, 3, "402,0,0;"},
     }};
 
 TEST(Structure, TheFamilyFile) {
