@@ -2,6 +2,8 @@
 
 #include "entities/annotation/igsAnnotationErrors.h"
 
+#include <algorithm>
+
 IGS_ENTITY_DEFINE(igs228, igsDimension, 228, 1, IGS_DE_ALL)
 
 int igs228::set_num_objects(int n) {
@@ -61,9 +63,14 @@ int igs228::read_pd_data(igsInStream& in) {
   return 1;
 }
 
+// A null geometry reference (one whose entity was never read or has gone) is left out: a 0
+// would end the record there for any reader, and the symbol would be lost.
 void igs228::write_pd_data(igsOutStream& out) {
-  igs_write_fields(out, general_note(), m_geometry.size());
-  for (igsObjectPtr const& geometry : m_geometry) igs_write_field(out, geometry);
+  int const written = static_cast<int>(std::count_if(m_geometry.begin(), m_geometry.end(),
+                                                     [](igsObjectPtr const& g) { return !!g; }));
+  igs_write_fields(out, general_note(), written);
+  for (igsObjectPtr const& geometry : m_geometry)
+    if (geometry) igs_write_field(out, geometry);
   igs_write_field(out, number_of_leaders());
   write_leaders_pd(out, number_of_leaders());
 }
@@ -93,12 +100,13 @@ int igs228InvalidDEFormNumber::fix() {
   return symbol && symbol->directory_entry().set_form_number(form() == 1 ? 0 : 1);
 }
 
-IGS_DIMENSION_DROP_REPAIR(igs228InvalidLeader, igs228, igs_named_leader, leaders, igsDrop::bad_if_any,
-                          1)
+IGS_DIMENSION_DROP_REPAIR(igs228InvalidLeader, igs228, igs_named_leader, leaders,
+                          igsDrop::bad_if_any, 1)
 
-IGS_CHILD_OBJ(igs228BadGeometryPointer, igs228, [](igs228 const& s, igs228BadGeometryPointer const& e) {
-  return igs_target(s.get_geometry(s.get_geom_index(e.index())));
-})
+IGS_CHILD_OBJ(igs228BadGeometryPointer, igs228,
+              [](igs228 const& s, igs228BadGeometryPointer const& e) {
+                return igs_target(s.get_geometry(s.get_geom_index(e.index())));
+              })
 int igs228BadGeometryPointer::fix() {
   igs228* symbol = igs_error_entity<igs228>(key());
   return symbol && symbol->drop_bad_geometry() >= 1;
