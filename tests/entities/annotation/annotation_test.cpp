@@ -30,8 +30,8 @@ Record solid(int type, int form, std::string data) {
 
 // Notes at DE 1 and 3; leaders at 5, 7, 9; witness lines at 11, 13; section lines at 15, 17;
 // centre lines at 19, 21; lines at 23, 25, a circle at 27 and a square at 29 as geometry;
-// then every dimension, the general symbols and the sectioned areas on them. Every record is
-// as the writer gives it.
+// then every dimension, the general symbols and the sectioned areas on them; last a section
+// line of each other form. Every record is as the writer gives it.
 Family const annotation = {
     "annotation",
     "annotation",
@@ -71,6 +71,13 @@ Family const annotation = {
         {228, 1, "228,1,1,29,2,5,7;"},
         {230, 0, "230,29,1,0.,0.,0.,0.5,0.785398163397448,1,27;"},
         {230, 0, "230,27,19,0.,0.,0.,0.,0.,0;"},
+        // The section lines of the other forms.
+        solid(106, 32, "106,1,2,0.,0.,0.,1.,1.;"),
+        solid(106, 33, "106,1,2,0.,0.,1.,1.,2.;"),
+        solid(106, 34, "106,1,2,0.,0.,2.,1.,3.;"),
+        solid(106, 35, "106,1,2,0.,0.,3.,1.,4.;"),
+        solid(106, 36, "106,1,2,0.,0.,4.,1.,5.;"),
+        solid(106, 37, "106,1,2,0.,0.,5.,1.,6.;"),
     }};
 
 TEST(Annotation, TheFamilyFile) {
