@@ -79,7 +79,9 @@ inline std::vector<std::string> entity_prints(igsFile const& file) {
 
 // Where two prints differ: the first place at which their characters differ, or their numbers
 // differ by more than a relative 1e-14 (reals are written with 15 significant digits, so a
-// value with more digits comes back rounded). Empty when they agree.
+// value with more digits comes back rounded). Between two numbers a comma and a line end are
+// the same: a print that keeps equal values on one line (knots) may join values that differed
+// only in digits the write rounds off. Empty when they agree.
 inline std::string print_difference(std::string const& a, std::string const& b) {
   auto starts_number = [](std::string const& s, size_t i) {
     auto digit = [&](size_t k) { return k < s.size() && s[k] >= '0' && s[k] <= '9'; };
@@ -100,6 +102,18 @@ inline std::string print_difference(std::string const& a, std::string const& b) 
                  a.substr(i > 60 ? i - 60 : 0, i > 60 ? 60 : i) + "\"";
         i = static_cast<size_t>(rx.ptr - a.data());
         j = static_cast<size_t>(ry.ptr - b.data());
+        continue;
+      }
+    }
+    auto separator = [](char c) { return c == ',' || c == '\n' || c == ' ' || c == '\t'; };
+    if (a[i] != b[j] && i > 0 && j > 0 && a[i - 1] >= '0' && a[i - 1] <= '9' && separator(a[i]) &&
+        separator(b[j])) {
+      size_t k = i, l = j;
+      while (k < a.size() && separator(a[k])) ++k;
+      while (l < b.size() && separator(b[l])) ++l;
+      if (k < a.size() && l < b.size() && starts_number(a, k) && starts_number(b, l)) {
+        i = k;
+        j = l;
         continue;
       }
     }

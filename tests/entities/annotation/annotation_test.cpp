@@ -491,19 +491,20 @@ TEST_F(AnnotationSetters, WordsAndTheirRepairs) {
   word.set_rotation_angle(giAngle());
   word.set_font_code(-5);
   EXPECT_TRUE(note->add_string(word, 0));
-  word = igsWord(utString("CD"), 1.0, 1.0);
+  word = igsWord(utString("CD"), 0.0, 1.0);
   word.set_font_code(-5);
   word.set_font_definition_entity(igsObjectPtr(point));
   EXPECT_TRUE(note->add_string(word, 1));
   EXPECT_TRUE(note->add_string(igsWord(utString("EF"), 1.0, 1.0), 2));
   EXPECT_FALSE(note->add_string(word, 3));
   EXPECT_FALSE(note->add_string(word, -1));
-  EXPECT_EQ(checked(*note), (std::vector<std::string>{
-                                "igs212InvalidFontCode(index=0)", "igs212InvalidFontCode(index=1)",
-                                "igs212InvalidFontDefinition(index=1)",
-                                "igs212InvalidRotationAngle(index=0,angle=-1.79769e+308)",
-                                "igs212InvalidSlantAngle(index=0,angle=-1.79769e+308)",
-                                "igs212NullFontDefinitionEntity(index=0)"}));
+  EXPECT_EQ(checked(*note),
+            (std::vector<std::string>{
+                "igs212InvalidBoxHeight(index=1,height=0)", "igs212InvalidFontCode(index=0)",
+                "igs212InvalidFontCode(index=1)", "igs212InvalidFontDefinition(index=1)",
+                "igs212InvalidRotationAngle(index=0,angle=-1.79769e+308)",
+                "igs212InvalidSlantAngle(index=0,angle=-1.79769e+308)",
+                "igs212NullFontDefinitionEntity(index=0)"}));
   // The angles take their defaults, the code 1; a code of 0 with a font definition is valid.
   for (kvuTypeInfo const* type :
        {&igs212InvalidSlantAngle::type(), &igs212InvalidRotationAngle::type(),
