@@ -689,6 +689,9 @@ namespace {
 TEST_F(CurveSetters, ConicArcsTakeTheFormOfTheirCoefficients) {
   igsConicCoeffs const ellipse(1, 0, 4, 0, 0, -4), hyperbola(1, 0, -1, 0, 0, -9),
       parabola(1, 0, 0, 0, -1, 0), circle(1, 0, 1, 0, 0, -1), line(0, 0, 0, 1, 1, -1);
+  // Conics so small that their invariants fall within the tolerance: the exact signs decide.
+  igsConicCoeffs const small_ellipse(1e-5, 0, 1e-5, 0, 0, -1e-5),
+      small_hyperbola(1e-5, 0, -1e-5, 0, 0, -1e-5), small_parabola(1e-5, 0, 0, 0, -1e-5, 0);
   struct Case {
     igsConicCoeffs coeffs;
     int form;
@@ -702,6 +705,9 @@ TEST_F(CurveSetters, ConicArcsTakeTheFormOfTheirCoefficients) {
       {parabola, 2, &igs104NotHyperbola::type(), 3},
       {ellipse, 3, &igs104NotParabola::type(), 1},
       {hyperbola, 3, &igs104NotParabola::type(), 2},
+      {small_ellipse, 2, &igs104NotHyperbola::type(), 1},
+      {small_hyperbola, 3, &igs104NotParabola::type(), 2},
+      {small_parabola, 1, &igs104NotEllipse::type(), 3},
       {line, 3, &igs104NotParabola::type(), 3},
       {line, 1, &igs104NotEllipse::type(), 1},
       {line, 0, &igs104UnknownType::type(), 0},
