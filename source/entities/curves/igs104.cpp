@@ -77,20 +77,20 @@ void igs104::check_pd() const {
   if (!valid_pd() || !m_coeffs.valid()) raise_error<igs104NoConstruct>();
   igsConicType c = m_coeffs.conic_type();
   switch (directory_entry().form_number()) {
-    case 0:
-      if (c == igsConicUnknown) raise_error<igs104UnknownType>();
-      break;
-    case 1:
-      if (c != igsConicEllipse) raise_error<igs104NotEllipse>();
-      break;
-    case 2:
-      if (c != igsConicHyperbola) raise_error<igs104NotHyperbola>();
-      break;
-    case 3:
-      if (c != igsConicParabola) raise_error<igs104NotParabola>();
-      break;
-    default:
-      break;
+  case 0:
+    if (c == igsConicUnknown) raise_error<igs104UnknownType>();
+    break;
+  case 1:
+    if (c != igsConicEllipse) raise_error<igs104NotEllipse>();
+    break;
+  case 2:
+    if (c != igsConicHyperbola) raise_error<igs104NotHyperbola>();
+    break;
+  case 3:
+    if (c != igsConicParabola) raise_error<igs104NotParabola>();
+    break;
+  default:
+    break;
   }
 }
 

@@ -66,7 +66,7 @@ class igs112 : public igsCurve {
   int segment_in_range(int i) const { return i >= 0 && i < m_segments.size(); }
 
   igsSplineType m_spline_type = igsSplineCubic;
-  int m_continuity = static_cast<int>(0x80000001u);
+  int m_continuity = igs_unset_int;
   igsSplineDimensionality m_dimensionality = igsSplineNonPlanar;
   coDynArr<double> m_breakpoints;
   coDynArr<Segment> m_segments;

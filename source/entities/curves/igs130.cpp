@@ -5,8 +5,6 @@
 
 IGS_ENTITY_DEFINE(igs130, igsCurve, 130, 0, IGS_DE_ALL)
 
-static int const no_index = static_cast<int>(0x80000001u);
-
 void igs130::set_all(igsObjectPtr const& basis, int type, igsObjectPtr const& function, int index,
                      int taper, double d1, double td1, double d2, double td2,
                      giVector3 const& normal, double start, double end) {
@@ -26,22 +24,22 @@ void igs130::set_all(igsObjectPtr const& basis, int type, igsObjectPtr const& fu
 
 void igs130::set_uniform_offset(igsObjectPtr const& basis, double distance, double start,
                                 double end, giVector3 const& normal) {
-  set_all(basis, igsOffsetUniform, igsObjectPtr(), no_index, igsOffsetTaperNone, distance,
+  set_all(basis, igsOffsetUniform, igsObjectPtr(), igs_unset_int, igsOffsetTaperNone, distance,
           igs_unset_double, igs_unset_double, igs_unset_double, normal, start, end);
 }
 
-void igs130::set_linear_varying_arc_length_offset(igsObjectPtr const& basis, double d1,
-                                                  double td1, double d2, double td2, double start,
-                                                  double end, giVector3 const& normal) {
-  set_all(basis, igsOffsetLinear, igsObjectPtr(), no_index, igsOffsetTaperArcLength, d1, td1, d2,
-          td2, normal, start, end);
+void igs130::set_linear_varying_arc_length_offset(igsObjectPtr const& basis, double d1, double td1,
+                                                  double d2, double td2, double start, double end,
+                                                  giVector3 const& normal) {
+  set_all(basis, igsOffsetLinear, igsObjectPtr(), igs_unset_int, igsOffsetTaperArcLength, d1, td1,
+          d2, td2, normal, start, end);
 }
 
-void igs130::set_linear_varying_parametric_offset(igsObjectPtr const& basis, double d1,
-                                                  double td1, double d2, double td2, double start,
-                                                  double end, giVector3 const& normal) {
-  set_all(basis, igsOffsetLinear, igsObjectPtr(), no_index, igsOffsetTaperParametric, d1, td1, d2,
-          td2, normal, start, end);
+void igs130::set_linear_varying_parametric_offset(igsObjectPtr const& basis, double d1, double td1,
+                                                  double d2, double td2, double start, double end,
+                                                  giVector3 const& normal) {
+  set_all(basis, igsOffsetLinear, igsObjectPtr(), igs_unset_int, igsOffsetTaperParametric, d1, td1,
+          d2, td2, normal, start, end);
 }
 
 void igs130::set_function_varying_arc_length_offset(igsObjectPtr const& basis,
@@ -73,10 +71,15 @@ int igs130::read_pd_data(igsInStream& in) {
   return 1;
 }
 
-// The fields in the order of reading, the references as DE numbers.
+// The fields in the order of reading, the references as DE numbers. A field that the way of
+// offsetting leaves unset goes out as 0, as a file that leaves it out gives it.
+template <class T> static T or_zero(T value) {
+  return igs_unset(value) ? T(0) : value;
+}
+
 void igs130::write_pd_data(igsOutStream& out) {
-  igs_write_fields(out, m_basis, m_type, m_function, m_index, m_taper, m_d1, m_td1, m_d2, m_td2,
-                   m_normal, m_start, m_end);
+  igs_write_fields(out, m_basis, m_type, m_function, or_zero(m_index), m_taper, or_zero(m_d1),
+                   or_zero(m_td1), or_zero(m_d2), or_zero(m_td2), m_normal, m_start, m_end);
 }
 
 void igs130::print_pd_data(utOstream& out) const {
@@ -108,34 +111,34 @@ void igs130::check_pd() const {
   if (static_cast<unsigned>(m_type) - 1u > 2u) raise_error<igs130InvalidOffsetDistanceFlag>();
   if (static_cast<unsigned>(m_taper) > 2u) raise_error<igs130InvalidTaperedOffsetFlag>();
   switch (m_type) {
-    case igsOffsetUniform:
-      if (m_function) raise_error<igs130FieldMismatch>();
-      if (m_index != 0) raise_error<igs130FieldMismatch>();
-      if (m_td1 != 0.0 || m_td2 != 0.0) raise_error<igs130FieldMismatch>();
-      break;
-    case igsOffsetLinear:
-      if (m_function) raise_error<igs130FieldMismatch>();
-      if (m_index != 0) raise_error<igs130FieldMismatch>();
-      if (m_d1 == 0.0)
-        raise_error<igs130InvalidOffsetDistance1>();
-      else if (m_td1 == 0.0)
-        raise_error<igs130InvalidOffsetAmount1>();
-      else if (m_d2 == 0.0)
-        raise_error<igs130InvalidOffsetDistance2>();
-      else if (m_td2 == 0.0)
-        raise_error<igs130InvalidOffsetAmount2>();
-      break;
-    case igsOffsetFunction:
-      igs_check_child(
-          m_function, igs_kind_of<igsCurve>, 0, [&] { raise_error<igs130NullFunctionCurvePtr>(); },
-          [&] { raise_error<igs130InvalidFunctionCurveType>(); },
-          [&] { raise_error<igs130InvalidFunctionCurveData>(); });
-      if (m_index < 1) raise_error<igs130InvalidCoordIndex>();
-      if (m_d1 != 0.0 || m_td1 != 0.0 || m_d2 != 0.0 || m_td2 != 0.0)
-        raise_error<igs130FieldMismatch>();
-      break;
-    default:
-      break;
+  case igsOffsetUniform:
+    if (m_function) raise_error<igs130FieldMismatch>();
+    if (m_index != 0) raise_error<igs130FieldMismatch>();
+    if (m_td1 != 0.0 || m_td2 != 0.0) raise_error<igs130FieldMismatch>();
+    break;
+  case igsOffsetLinear:
+    if (m_function) raise_error<igs130FieldMismatch>();
+    if (m_index != 0) raise_error<igs130FieldMismatch>();
+    if (m_d1 == 0.0)
+      raise_error<igs130InvalidOffsetDistance1>();
+    else if (m_td1 == 0.0)
+      raise_error<igs130InvalidOffsetAmount1>();
+    else if (m_d2 == 0.0)
+      raise_error<igs130InvalidOffsetDistance2>();
+    else if (m_td2 == 0.0)
+      raise_error<igs130InvalidOffsetAmount2>();
+    break;
+  case igsOffsetFunction:
+    igs_check_child(
+        m_function, igs_kind_of<igsCurve>, 0, [&] { raise_error<igs130NullFunctionCurvePtr>(); },
+        [&] { raise_error<igs130InvalidFunctionCurveType>(); },
+        [&] { raise_error<igs130InvalidFunctionCurveData>(); });
+    if (m_index < 1) raise_error<igs130InvalidCoordIndex>();
+    if (m_d1 != 0.0 || m_td1 != 0.0 || m_d2 != 0.0 || m_td2 != 0.0)
+      raise_error<igs130FieldMismatch>();
+    break;
+  default:
+    break;
   }
 }
 

@@ -34,8 +34,8 @@ class igs130 : public igsCurve {
   double start_parameter() const { return m_start; }
   double end_parameter() const { return m_end; }
 
-  // Each stores every field, with no checks; what the way of offsetting does not use is null,
-  // 0x80000001 or unset.
+  // Each stores every field, with no checks; what the way of offsetting does not use is null
+  // or unset (and written as 0).
   void set_uniform_offset(igsObjectPtr const& basis, double distance, double start, double end,
                           giVector3 const& normal);
   void set_linear_varying_arc_length_offset(igsObjectPtr const& basis, double d1, double td1,
@@ -45,11 +45,11 @@ class igs130 : public igsCurve {
                                             double d2, double td2, double start, double end,
                                             giVector3 const& normal);
   void set_function_varying_arc_length_offset(igsObjectPtr const& basis,
-                                              igsObjectPtr const& function, int index,
-                                              double start, double end, giVector3 const& normal);
+                                              igsObjectPtr const& function, int index, double start,
+                                              double end, giVector3 const& normal);
   void set_function_varying_parametric_offset(igsObjectPtr const& basis,
-                                              igsObjectPtr const& function, int index,
-                                              double start, double end, giVector3 const& normal);
+                                              igsObjectPtr const& function, int index, double start,
+                                              double end, giVector3 const& normal);
 
  protected:
   void unreference_children() override;
@@ -65,7 +65,7 @@ class igs130 : public igsCurve {
   igsObjectPtr m_basis;
   int m_type = 0;
   igsObjectPtr m_function;
-  int m_index = static_cast<int>(0x80000001u);
+  int m_index = igs_unset_int;
   int m_taper = 0;
   double m_d1 = igs_unset_double;
   double m_td1 = igs_unset_double;
