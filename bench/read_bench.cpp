@@ -617,3 +617,37 @@ void BM_ReadNamedFile(benchmark::State& state) {
 }
 BENCHMARK(BM_ReadNamedFile)->Unit(benchmark::kMillisecond)->Iterations(3);
 // ---- End of the trimmed surfaces.
+
+// ---- Conics, parametric splines and offsets: in turn a conic arc (an ellipse), a parametric
+// spline curve of 1 to 8 cubic segments with reals of about a dozen digits, a line and an
+// offset of that line.
+Generated generate_conic_spline_offsets(std::size_t at_least) {
+  RecordText file;
+  Reals reals;
+  for (int index = 0; file.d.size() + file.p.size() < at_least; ++index) {
+    std::string conic(",1.,0.,4.,0.,0.,-4.");
+    conic.append(",").append(reals.next()).append(",2.,0.,0.,1.");
+    file.add(104, 1, conic);
+    int const segments = 1 + index % 8;
+    std::string spline(",3,2,3,");
+    spline.append(std::to_string(segments));
+    for (int i = 0; i <= segments; ++i) spline.append(",").append(std::to_string(i)).append(".");
+    for (int i = 0; i < 12 * segments + 12; ++i) spline.append(",").append(reals.next());
+    file.add(112, 0, spline);
+    std::string line;
+    for (int i = 0; i < 6; ++i) line.append(",").append(reals.next());
+    int basis = file.add(110, 0, line);
+    std::string offset(",");
+    offset.append(std::to_string(basis)).append(",1,0,0,0,").append(reals.next());
+    offset.append(",0.,0.,0.,0.,0.,1.,0.,1.");
+    file.add(130, 0, offset);
+  }
+  return file.text();
+}
+
+void BM_ReadConicSplineOffsets(benchmark::State& state) {
+  static Generated const g = generate_conic_spline_offsets(50u << 20);
+  measure_read(state, g);
+}
+BENCHMARK(BM_ReadConicSplineOffsets)->Unit(benchmark::kMillisecond)->Iterations(3);
+// ---- End of the conics, parametric splines and offsets.
