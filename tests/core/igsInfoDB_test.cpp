@@ -56,20 +56,6 @@ TEST(igsInfoDB, DefaultFormsAndRegisteredFormsExist) {
   }
 }
 
-TEST(igsInfoDB, UnknownAndNullTakeEveryFormButTheMostNegative) {
-  for (int type : {-1, 0}) {
-    SCOPED_TRACE(type);
-    for (int form : {INT_MIN + 1, -1, 0, 1, 17, 5500, 12345, INT_MAX}) {
-      EXPECT_TRUE(igsInfoDB::form_exists(type, form)) << form;
-      EXPECT_EQ(igsInfoDB::form_name(type, form), "Unknown");
-    }
-    EXPECT_FALSE(igsInfoDB::form_exists(type, INT_MIN));
-    EXPECT_EQ(igsInfoDB::form_name(type, INT_MIN), "Default");
-  }
-  EXPECT_EQ(igsInfoDB::entity_form_name(-1, 12345), "Unknown Entity(Unknown)");
-  EXPECT_EQ(igsInfoDB::entity_form_name(0, 99), "Null(Unknown)");
-}
-
 TEST(igsInfoDB, LookupsThatReadersAndPrintersRelyOn) {
   EXPECT_TRUE(igsInfoDB::form_exists(110, 0));
   EXPECT_FALSE(igsInfoDB::form_exists(110, 1));
