@@ -32,24 +32,6 @@ std::vector<igsError*> walk(igsSimpleSectionLog& log) {
   return met;
 }
 
-TEST_F(LogTest, AnErrorFilesItselfInTheCurrentFilesLogWhenConstructed) {
-  auto* node = new testNode(-1);
-  igsError* e = raise(*node);
-  EXPECT_EQ(e->log(), &log().get_section_log(igsObjectLog));
-  EXPECT_EQ(object_log().num_errors(node->de_number()), 1);
-  EXPECT_EQ(node->num_logged_errors(), 1);
-  EXPECT_EQ(walk(object_log()), std::vector<igsError*>{e});
-
-  // With another file current, the next error goes to that file's log.
-  auto other = std::make_unique<igsFile>();
-  igsError* elsewhere = raise(*node);
-  EXPECT_EQ(igsObjectSystem::log().get_section_log(igsObjectLog).num_errors(), 1);
-  igsObjectSystem::set_current_file(*file);
-  EXPECT_EQ(object_log().num_errors(), 1);
-  EXPECT_EQ(walk(object_log()), std::vector<igsError*>{e});
-  EXPECT_NE(elsewhere->log(), e->log());
-}
-
 TEST_F(LogTest, ErrorsAreFiledUnderTheirKeyAtTheNextLookAtTheLog) {
   // Created untagged, keyed before anything reads the log: counted under the key.
   auto* late = new testNodeNegativeValue(-4);
