@@ -98,24 +98,6 @@ TEST_F(FileTest, ReplaceEntityMovesReferencesAndTheDeNumber) {
   igsObjectSystem::set_current_file(*file);
 }
 
-TEST_F(FileTest, CompressPacksTheTableAndForgetsTheFreeSlots) {
-  std::vector<testNode*> nodes;
-  for (int i = 0; i < 6; ++i) nodes.push_back(new testNode(i));
-  igsObjectPtr to_last(nodes[5]);
-  delete nodes[1];
-  delete nodes[3];
-  delete nodes[4];
-  EXPECT_EQ(de_numbers(*file), (std::vector<int>{1, 5, 11}));
-  file->compress();
-  EXPECT_EQ(de_numbers(*file), (std::vector<int>{1, 3, 5}));
-  EXPECT_EQ(file->num_slots(), 3);
-  EXPECT_EQ(to_last(), nodes[5]);
-  EXPECT_EQ(nodes[5]->de_number(), 5);
-  EXPECT_EQ(igsObjectPtr(3)(), nodes[2]);
-  // No freed slot is left: the next entity comes after the last.
-  EXPECT_EQ((new testNode)->de_number(), 7);
-}
-
 TEST_F(FileTest, ForwardReferencesThatNeverGetAnEntityStayNullForGood) {
   igsObjectPtr dangling(9);
   new testNode;

@@ -4,28 +4,6 @@ namespace {
 
 using ReferenceTest = FileTest;
 
-TEST_F(ReferenceTest, DeNumberBindsBeforeTheEntityExistsAndReachesItWhenItArrives) {
-  igsObjectPtr first(1);
-  igsObjectPtr third(5);
-  EXPECT_FALSE(first);
-  EXPECT_TRUE(first == igsObjectPtr());
-  EXPECT_EQ(file->num_managers(), 2); // two placeholders
-  EXPECT_EQ(file->num_entities(), 0);
-
-  auto* a = new testNode(1);
-  EXPECT_EQ(a->de_number(), 1);
-  EXPECT_EQ(first(), a); // the same reference, with nothing done to it
-  EXPECT_EQ(a->num_references(), 1);
-  EXPECT_EQ(file->num_managers(), 2); // the placeholder became the entity's manager
-
-  auto* b = new testNode(2);
-  EXPECT_FALSE(third);
-  auto* c = new testNode(3);
-  EXPECT_EQ(third(), c);
-  EXPECT_EQ(igsObjectPtr(3)(), b); // an existing slot binds at once
-  EXPECT_EQ(file->num_managers(), 3);
-}
-
 TEST_F(ReferenceTest, DeletingAnEntityNullsEveryReferenceAtOnce) {
   auto* target = new testNode;
   auto* holder = new testNode;

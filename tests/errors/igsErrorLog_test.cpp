@@ -95,22 +95,6 @@ TEST_F(LogTest, MarkingAsFixedTakesTheErrorOutOfTheCountsAndFreesItsSlot) {
   EXPECT_EQ(object_log().num_errors(node->de_number()), 2);
 }
 
-TEST_F(LogTest, AWalkThatMarksEachErrorAsFixedVisitsEachOnce) {
-  auto* a = new testNode(-1);
-  auto* b = new testNode(-2);
-  std::vector<igsError*> made = {raise(*a), raise(*b), raise(*a), raise(*b)};
-  std::vector<igsError*> met;
-  for (igsSimpleSectionLogIT it(&object_log()); ++it;) {
-    met.push_back(it());
-    log().mark_as_fixed(it());
-    EXPECT_EQ(it(), nullptr); // a null slot is left behind
-  }
-  EXPECT_EQ(met, made);
-  EXPECT_EQ(object_log().num_errors(), 0);
-  EXPECT_EQ(a->num_logged_errors(), 0);
-  EXPECT_TRUE(walk(object_log()).empty());
-}
-
 TEST_F(LogTest, ErrorsOutliveTheirEntity) {
   auto* node = new testNode(-1);
   new testNode;
