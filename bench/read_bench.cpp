@@ -485,6 +485,61 @@ void BM_ReadSurfaces(benchmark::State& state) {
 BENCHMARK(BM_ReadSurfaces)->Unit(benchmark::kMillisecond)->Iterations(3);
 // ---- End of the surfaces.
 
+// ---- Annotation: a drawing of notes, leaders, annotation curves, dimensions, general symbols
+// and sectioned areas. Each unit holds two lines and a circle as the drawn geometry; a note of
+// two strings and one of one; three leaders; two witness lines, a section line and a centre
+// line; a linear, angular, curve, diameter, radius, ordinate and point dimension, a flag note
+// and a general label; a general symbol and a sectioned area. Their Directory Entries give line
+// font 0, which the check of a note or an annotation curve reports; reading takes it as it is.
+Generated generate_annotation(std::size_t at_least) {
+  RecordText file;
+  Reals reals;
+  auto values = [&](int count) {
+    std::string text;
+    for (int i = 0; i < count; ++i) text.append(",").append(reals.next());
+    return text;
+  };
+  auto to = [](int de) { return std::string(",").append(std::to_string(de)); };
+  // One string of a note: its box, font, angles, flags, start point and text.
+  auto word = [&](std::string const& text) {
+    std::string fields = "," + std::to_string(text.size()) + ",12.5,3.5,1,1.5707963267949,0.,0,0";
+    return fields.append(values(3)).append(",").append(std::to_string(text.size()) + "H" + text);
+  };
+  for (int unit = 0; file.d.size() + file.p.size() < at_least; ++unit) {
+    std::string first = to(file.add(110, 0, values(6)));
+    std::string second = to(file.add(110, 0, values(6)));
+    std::string circle = to(file.add(100, 0, ",0.,0.,0.,5.,0.,5.,0."));
+    std::string note = to(file.add(
+        212, 0, ",2" + word("DIM " + std::to_string(unit)) + word("SEE DETAIL A-A, SHEET 2")));
+    std::string label = to(file.add(212, 0, ",1" + word("R" + std::to_string(unit % 97))));
+    std::string leader[3];
+    for (std::string& l : leader) l = to(file.add(214, 1, ",2,3.,1.,0." + values(6)));
+    std::string witness[2];
+    for (std::string& w : witness) w = to(file.add(106, 40, ",1,3,0." + values(6)));
+    file.add(106, 31, ",1,2,0." + values(4));
+    file.add(106, 20, ",1,2,0." + values(4));
+    file.add(216, 0, note + leader[0] + leader[1] + witness[0] + witness[1]);
+    file.add(202, 0, note + witness[0] + witness[1] + values(2) + ",25." + leader[0] + leader[1]);
+    file.add(204, 0, note + first + second + leader[0] + leader[1] + witness[0] + witness[1]);
+    file.add(206, 0, note + leader[0] + leader[1] + values(2));
+    file.add(222, 0, label + leader[2] + values(2));
+    file.add(218, 0, label + witness[0]);
+    file.add(220, 0, label + leader[2] + circle);
+    file.add(208, 0, values(4) + label + ",1" + leader[2]);
+    file.add(210, 0, label + ",2" + leader[0] + leader[1]);
+    file.add(228, 1, note + ",2" + first + second + ",1" + leader[2]);
+    file.add(230, 0, circle + ",1" + values(3) + ",2.5,0.785398163397448,0");
+  }
+  return file.text();
+}
+
+void BM_ReadAnnotation(benchmark::State& state) {
+  static Generated const g = generate_annotation(20u << 20);
+  measure_read(state, g);
+}
+BENCHMARK(BM_ReadAnnotation)->Unit(benchmark::kMillisecond)->Iterations(3);
+// ---- End of the annotation.
+
 } // namespace
 
 // ---- Trimmed surfaces: bicubic B-spline surfaces of 6 to 13 by 6 control points, each
@@ -562,3 +617,37 @@ void BM_ReadNamedFile(benchmark::State& state) {
 }
 BENCHMARK(BM_ReadNamedFile)->Unit(benchmark::kMillisecond)->Iterations(3);
 // ---- End of the trimmed surfaces.
+
+// ---- Conics, parametric splines and offsets: in turn a conic arc (an ellipse), a parametric
+// spline curve of 1 to 8 cubic segments with reals of about a dozen digits, a line and an
+// offset of that line.
+Generated generate_conic_spline_offsets(std::size_t at_least) {
+  RecordText file;
+  Reals reals;
+  for (int index = 0; file.d.size() + file.p.size() < at_least; ++index) {
+    std::string conic(",1.,0.,4.,0.,0.,-4.");
+    conic.append(",").append(reals.next()).append(",2.,0.,0.,1.");
+    file.add(104, 1, conic);
+    int const segments = 1 + index % 8;
+    std::string spline(",3,2,3,");
+    spline.append(std::to_string(segments));
+    for (int i = 0; i <= segments; ++i) spline.append(",").append(std::to_string(i)).append(".");
+    for (int i = 0; i < 12 * segments + 12; ++i) spline.append(",").append(reals.next());
+    file.add(112, 0, spline);
+    std::string line;
+    for (int i = 0; i < 6; ++i) line.append(",").append(reals.next());
+    int basis = file.add(110, 0, line);
+    std::string offset(",");
+    offset.append(std::to_string(basis)).append(",1,0,0,0,").append(reals.next());
+    offset.append(",0.,0.,0.,0.,0.,1.,0.,1.");
+    file.add(130, 0, offset);
+  }
+  return file.text();
+}
+
+void BM_ReadConicSplineOffsets(benchmark::State& state) {
+  static Generated const g = generate_conic_spline_offsets(50u << 20);
+  measure_read(state, g);
+}
+BENCHMARK(BM_ReadConicSplineOffsets)->Unit(benchmark::kMillisecond)->Iterations(3);
+// ---- End of the conics, parametric splines and offsets.

@@ -68,6 +68,16 @@ int igs_read_members(igsInStream& in, int count, List& list, ReadOne const& read
   return 1;
 }
 
+// Reads a list behind its count as igs_read_members does. A record that ends before a count
+// that is believable (not above igs_max_initial_reserve) leaves the members it lacks as
+// default members (null references, unset values), which the check reports; a wild count
+// gives what there was. 0 when the list could not grow.
+template <class List, class ReadOne>
+int igs_read_counted_members(igsInStream& in, int count, List& list, ReadOne const& read_one) {
+  if (!igs_read_members(in, count, list, read_one)) return 0;
+  return count <= list.size() || count > igs_max_initial_reserve || list.expand(count);
+}
+
 // One field each. The stream gives 0 for a defaulted field; a point or vector is made of its
 // coordinates in order; a reference is a DE number, bound at once.
 inline void igs_read_field(igsInStream& in, int& value) {
@@ -102,6 +112,12 @@ inline void igs_read_field(igsInStream& in, igsObjectPtr& reference) {
 inline void igs_read_field(igsInStream& in, utString& text) {
   in.read_holerith(text);
   if (text.length() == 0) text = utString();
+}
+// One field of a kind, as a value.
+template <class Field> Field igs_read_value(igsInStream& in) {
+  Field value{};
+  igs_read_field(in, value);
+  return value;
 }
 // Reads the fields in order.
 template <class... Field> void igs_read_fields(igsInStream& in, Field&... fields) {

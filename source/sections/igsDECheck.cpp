@@ -16,7 +16,9 @@ void igsObject::check_directory_entry(unsigned steps, int required_use) const {
   igsDirectoryEntry const& de = directory_entry();
   auto step = [steps](unsigned flag) { return (steps & flag) != 0; };
 
-  if (step(IGS_DE_LINE_FONT) && !de.line_font().valid()) raise_error<igsDEInvalidLineFont>();
+  if ((step(IGS_DE_LINE_FONT) && !de.line_font().valid()) ||
+      (step(IGS_DE_SOLID_LINE_FONT) && de.line_font().pattern_value() != 1))
+    raise_error<igsDEInvalidLineFont>();
   if (step(IGS_DE_LEVEL) && !de.level().valid()) raise_error<igsDEInvalidLevel>();
   if (igsObjectPtr const& matrix = de.matrix(); step(IGS_DE_MATRIX) && matrix) {
     // Both tests run: a matrix of the wrong kind is still checked.

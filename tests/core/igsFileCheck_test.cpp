@@ -1,9 +1,7 @@
 #include "core/objectTestSupport.h"
 
 #include "entities/structure/igs410_0.h"
-#include "errors/igsFixer.h"
 
-#include <algorithm>
 #include <climits>
 #include <string>
 #include <vector>
@@ -168,19 +166,6 @@ TEST_F(CleanTest, CleanOneLeavesOnlyTheEntitiesWithoutLoggedErrors) {
   EXPECT_EQ(object_log().num_errors(), 2);
 }
 
-TEST_F(ViewNumberTest, ViewNumberZeroIsValidAndASecondZeroIsRepeated) {
-  std::vector<igs410_0*> v = views({0});
-  file->check();
-  EXPECT_EQ(object_log().num_errors(), 0);
-  v.push_back(view(0));
-  file->check();
-  EXPECT_EQ(object_errors(), std::vector<std::string>{"igs410_0RepeatedView" + at(v[1]) + "(1)"});
-  // The errors outlive the walk over the entities, and the repair gives the proposed number.
-  file->clean(0);
-  EXPECT_EQ(numbers(v), (std::vector<int>{0, 1}));
-  EXPECT_EQ(object_log().num_errors(), 0);
-}
-
 TEST_F(ViewNumberTest, EachFaultProposesTheNextNumberAboveAllInUse) {
   std::vector<igs410_0*> v = views({3, igs_unset_int, 3, -5, 0, 7, -1});
   auto* derived = new testDerivedView; // not of the view class itself: passed by
@@ -206,37 +191,6 @@ TEST_F(ViewNumberTest, ProposalsPastTheLargestIntTakeTheLowestFreeNumbers) {
   file->clean(0);
   EXPECT_EQ(numbers(v), (std::vector<int>{INT_MAX, 1, 2, 4, 3}));
   EXPECT_EQ(object_log().num_errors(), 0);
-}
-
-TEST_F(ViewNumberTest, TheRepairOfAViewThatWentDoesNothingAndStays) {
-  std::vector<igs410_0*> v = views({2, 2});
-  file->check();
-  ASSERT_EQ(object_log().num_errors(), 1);
-  delete v[1];
-  new testNode(4); // takes the freed slot: no view under the error's DE number
-  igsFixer().fix(log(), 1);
-  EXPECT_EQ(object_log().num_errors(), 1);
-  EXPECT_EQ(v[0]->view_number(), 2);
-}
-
-} // namespace
-
-namespace {
-
-// The file's check judges its Global section first: a section built in memory and left with
-// its unset precisions fails the precision tests, and a clean leaves the repaired values.
-TEST_F(FileCheckTest, CheckJudgesTheGlobalSectionAndCleanRepairsIt) {
-  file->check();
-  igsSimpleSectionLog& global = log().get_section_log(igsGlobalLog);
-  std::vector<std::string> names;
-  for (igsSimpleSectionLogIT it(&global); ++it;) names.push_back(it()->objtype().name());
-  EXPECT_NE(std::find(names.begin(), names.end(), "igsGlobalSectionInvalidSinglePrecMagnitude"),
-            names.end());
-  EXPECT_NE(std::find(names.begin(), names.end(), "igsGlobalSectionInvalidMinResolution"),
-            names.end());
-  file->clean(0);
-  EXPECT_EQ(file->global_section().sp_max_pow10(), 38);
-  EXPECT_EQ(file->global_section().minimum_resolution(), 0.0001);
 }
 
 } // namespace

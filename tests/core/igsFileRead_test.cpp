@@ -167,21 +167,6 @@ TEST_F(ReadTest, ParameterLinesOfNoEntityArePassedOver) {
   EXPECT_EQ(entity<igs116>(second)->point(), giPoint3(2, 2, 2));
 }
 
-TEST_F(ReadTest, NullEntitiesAreCountedAndDroppedWithoutChangingTheNumbering) {
-  FileText f;
-  int null = f.add(0, 0, {"0;"});
-  int point = f.add(116, 0, {"116,1.,2.,3.;"});
-  int second_null = f.add(0, 0, {"0,1,2;"});
-  ASSERT_EQ(read(f.text()), 1);
-  EXPECT_EQ(errors(), Lines{});
-  EXPECT_EQ(file->num_nulls(), 2);
-  EXPECT_EQ(file->num_entities(), 1);
-  EXPECT_FALSE(entity<igsObject>(null));
-  EXPECT_FALSE(entity<igsObject>(second_null));
-  ASSERT_TRUE(entity<igs116>(point));
-  EXPECT_EQ(entity<igs116>(point)->de_number(), 3);
-}
-
 TEST_F(ReadTest, FilesThatEndEarly) {
   FileText f = three_entities();
   {
@@ -221,12 +206,6 @@ TEST_F(ReadTest, FilesThatEndEarly) {
     ASSERT_TRUE(entity<igs100>(5));
     EXPECT_EQ(entity<igs100>(5)->end_point(), giPoint2(0, 2));
     EXPECT_EQ(errors(), Lines{});
-  }
-  {
-    SCOPED_TRACE("no Start section: the Global section opens the file");
-    file = std::make_unique<igsFile>();
-    EXPECT_EQ(read(f.global() + f.directory() + f.parameters() + f.terminate()), 1);
-    EXPECT_EQ(file->num_entities(), 3);
   }
 }
 
@@ -287,29 +266,14 @@ TEST_F(ReadTest, BlankLinesAndLinesOutOfSequenceEachGiveOneErrorOfTheFile) {
   std::vector<Case> cases = {
       {"blank line in front of the Global section",
        f.start() + Lines{""} + f.global() + d + p + f.terminate(), blank},
-      {"blank line in front of the first D line",
-       f.start() + f.global() + Lines{"  "} + d + p + f.terminate(), blank},
       {"blank line between D entries",
        f.start() + f.global() + Lines{d[0], d[1], "", d[2], d[3], d[4], d[5]} + p + f.terminate(),
        blank},
-      {"blank line in front of the first P line",
-       f.start() + f.global() + d + Lines{""} + p + f.terminate(), blank},
       {"blank line inside a record",
        f.start() + f.global() + d + Lines{p[0], p[1], "\t", p[2], p[3]} + f.terminate(), blank},
-      {"blank line in front of a record",
-       f.start() + f.global() + d + Lines{p[0], p[1], p[2], "", p[3]} + f.terminate(), blank},
-      {"blank line in front of the T line",
-       f.start() + f.global() + d + p + Lines{""} + f.terminate(), blank},
       {"first line of a D entry out of sequence",
        f.start() + f.global() + Lines{d[0], d[1], renumbered(d[2], 9), d[3], d[4], d[5]} + p +
            f.terminate(),
-       sequence},
-      {"second line of a D entry out of sequence",
-       f.start() + f.global() + Lines{d[0], renumbered(d[1], 7), d[2], d[3], d[4], d[5]} + p +
-           f.terminate(),
-       sequence},
-      {"first line of a record out of sequence",
-       f.start() + f.global() + d + Lines{p[0], renumbered(p[1], 7), p[2], p[3]} + f.terminate(),
        sequence},
       {"later line of a record out of sequence",
        f.start() + f.global() + d + Lines{p[0], p[1], renumbered(p[2], 1), p[3]} + f.terminate(),
@@ -350,21 +314,10 @@ TEST_F(ReadTest, NullCharactersAreBlankedAndReportedForTheirLineOrEntity) {
   // A NUL stands in a blank column or in a number's place, where the blank that replaces it
   // is passed over.
   std::vector<Case> cases = {
-      {"first D line of the first entry",
-       f.start() + f.global() + Lines{nul(d[0], 0)} + Lines{d[1], d[2], d[3], d[4], d[5]} + p +
-           f.terminate(),
-       {"igsFileDENullCharacters(line=1)"}},
       {"second D line of an entry",
        f.start() + f.global() + Lines{d[0], d[1], d[2], nul(d[3], 50), d[4], d[5]} + p +
            f.terminate(),
        {"igsFileDENullCharacters(line=3)"}},
-      {"first D line of a later entry",
-       f.start() + f.global() + Lines{d[0], d[1], nul(d[2], 1), d[3], d[4], d[5]} + p +
-           f.terminate(),
-       {"igsFileDENullCharacters(line=3)"}},
-      {"first P line of a later record",
-       f.start() + f.global() + d + Lines{p[0], nul(p[1], 63), p[2], p[3]} + f.terminate(),
-       {"igsFilePDNullCharacters(de_number=3)"}},
       {"later P line of a record",
        f.start() + f.global() + d + Lines{p[0], p[1], nul(p[2], 63), p[3]} + f.terminate(),
        {"igsFilePDNullCharacters(de_number=3)"}},
@@ -395,94 +348,6 @@ TEST_F(ReadTest, NullCharactersAreBlankedAndReportedForTheirLineOrEntity) {
                         "Entry section.\nThese have been replaced with spaces.\n"
                         "Warning : There were null characters found in the Parameter Data for "
                         "DE 1.\nThese have been replaced with spaces.\n");
-}
-
-// The lines of the text from the line that is `header` at the indent to the "}" that closes it
-// at the same indent, taken out to the left margin.
-std::string block(std::string const& text, std::string const& header, size_t indent) {
-  std::string margin(indent, ' ');
-  size_t from = text.find("\n" + margin + header + "\n");
-  size_t to = text.find("\n" + margin + "}\n", from);
-  if (from == std::string::npos || to == std::string::npos) return "";
-  std::string lines = text.substr(from + 1, to + indent + 3 - (from + 1));
-  std::string out;
-  for (size_t at = 0; at < lines.size();) {
-    size_t end = lines.find('\n', at);
-    out += lines.substr(at + indent, end - at - indent + 1);
-    at = end + 1;
-  }
-  return out;
-}
-
-TEST_F(ReadTest, PrintOfTheFileAndOfEachEntity) {
-  FileText f = three_entities();
-  EntityText& line = f.entity(3);
-  line.level = 7;
-  line.colour = 3;
-  line.label = "EDGE";
-  line.subscript = 12;
-  ASSERT_EQ(read(f.text()), 1);
-  // The frame and every label are held by the golden prints of the entity families; here,
-  // that the Directory Entry shows the attributes read and each entity is printed once.
-  std::string text = printed(*file);
-  std::string de = block(block(text, "@3(110) = {", 4), "DirectoryEntry = {", 2);
-  for (char const* shown : {"Level = 7\n", "Colour = 3(Green)\n", "EntityLabel = \"    EDGE\"\n",
-                            "EntitySubscript = 12\n"})
-    EXPECT_NE(de.find(shown), std::string::npos) << shown << " in\n" << de;
-  // Each entity printed alone is what the file printed where the entity was first met.
-  EXPECT_EQ(printed(*entity<igs116>(1)), block(text, "@1(116) = {", 4));
-  EXPECT_EQ(printed(*entity<igs110>(3)), block(text, "@3(110) = {", 4));
-  EXPECT_EQ(printed(*entity<igs100>(5)), block(text, "@5(100) = {", 8));
-  EXPECT_EQ(block(text, "@5(100) = {", 4), "@5(100) = {\n}\n");
-}
-
-// The file reader takes the number fields of its D lines in their usual form straight from
-// the line; whatever the columns hold, that must give the fields the plain read gives.
-TEST(DirectoryFieldsRead, TheReadersWayGivesWhatThePlainReadGives) {
-  std::string const sound1 =
-      "     110       1       0       0       0       0       0       000000000";
-  std::string const sound2 =
-      "     110       0       0       1       0                               0";
-  auto with = [](std::string line, size_t at, std::string const& text) {
-    return line.replace(at, text.size(), text);
-  };
-  std::vector<std::pair<std::string, std::string>> cases = {
-      {sound1, sound2},
-      {with(sound1, 8, "5       "), sound2}, // left-justified
-      {with(sound1, 8, "      +5"), sound2}, // signs
-      {with(sound1, 16, "      -3"), with(sound2, 64, "-1234567")},
-      {with(sound1, 8, "  -    5"), sound2},                      // a sign apart from its digits
-      {with(sound1, 8, "  1 2   "), sound2},                      // an embedded blank
-      {with(sound1, 8, "   12a  "), sound2},                      // a letter behind the digits
-      {with(sound1, 8, "       -"), sound2},                      // a sign alone
-      {with(sound1, 0, "12345678"), with(sound2, 0, "12345678")}, // every column a digit
-      {with(sound1, 64, " 1 2 3 4"), sound2},                     // status digits, blank or not
-      {with(sound1, 64, "0a0+0-0 "), sound2},
-      {sound1, with(sound2, 40, "reserved colsLABEL  1       ")}, // texts
-      {std::string(72, ' '), std::string(72, ' ')},               // blanks throughout
-      {sound1.substr(0, 30), sound2.substr(0, 45)},               // lines cut short
-  };
-  for (auto const& [first, second] : cases) {
-    SCOPED_TRACE(first + "|" + second);
-    std::string text = igs_input_test::join(
-        {record('D', 1, first), record('D', 2, second), record('D', 3, sound1)});
-    auto read_fields = [&](bool readers_way, int& line, int& column) {
-      std::istringstream bytes(text);
-      igsInStream in(bytes);
-      in.reset();
-      igsDirectoryFields fields;
-      unsigned codes = 0;
-      EXPECT_EQ(fields.read(in, readers_way ? &codes : nullptr), 1);
-      igsFileSection section;
-      in.position(section, line, column);
-      return fields;
-    };
-    int plain_line = 0, plain_column = 0, line = 0, column = 0;
-    igsDirectoryFields plain = read_fields(false, plain_line, plain_column);
-    EXPECT_EQ(read_fields(true, line, column), plain);
-    EXPECT_EQ(line, plain_line);
-    EXPECT_EQ(column, plain_column);
-  }
 }
 
 // Reaches the protected record operations of any entity.

@@ -1,9 +1,7 @@
-// Writing whole files made by our own code: the exact text of a small one, the renumbering
-// after deletions, the temporary file whatever happens to the destination, the parametric
-// precision and a back pointer beyond its columns. Every written file passes the structural
-// check. The records of each entity class and their round trip are the family tests'.
+// Writing whole files made by our own code: the renumbering after deletions, the temporary
+// file whatever happens to the destination, the parametric precision and a back pointer beyond
+// its columns. Every written file passes the structural check. The records of each entity class and their round trip are the family tests'.
 #include "core/objectTestSupport.h"
-#include "core/roundTripCheck.h"
 #include "core/writtenFileCheck.h"
 
 #include "core/igsFileErrors.h"
@@ -14,7 +12,6 @@
 #include "output/outputTestSupport.h"
 #include "support/kvuTempFile.h"
 
-#include <algorithm>
 #include <filesystem>
 #include <fstream>
 #include <vector>
@@ -117,63 +114,6 @@ class WriteTest : public FileTest {
   fs::path write_dir;
   kvnabsStringOutput messages;
 };
-
-std::string const small_file =
-    "A small file written by the tests.                                      S      1\n"
-    "1H,,1H;,8Higs test,9Hsmall.igs,7HUnknown,7HUnknown,32,38,6,308,15,7HUnknG      1\n"
-    "own,1.,2,2HMM,1,0.,15H20240102.030405,0.001,100.,7HUnknown,7HUnknown,11,G      2\n"
-    "0,15H20240102.030405;                                                   G      3\n"
-    "     116       1       0       1       7       0       0       000000000D      1\n"
-    "     116       0       0       1       0                      PT       2D      2\n"
-    "     110       2       0       2       0       0       0       000010001D      3\n"
-    "     110       3       2       1       0                               0D      4\n"
-    "     100       3       0       1       0       1       0       300000000D      5\n"
-    "     100       0       0       1       0                               0D      6\n"
-    "116,1.,2.5,-3.,0;                                                      1P      1\n"
-    "110,0.,0.,0.,10.,0.,0.125;                                             3P      2\n"
-    "100,0.,0.,0.,1.,0.,0.,1.;                                              5P      3\n"
-    "S      1G      3D      6P      3                                        T      1\n";
-
-TEST_F(WriteTest, ASmallFileIsWrittenExactly) {
-  igsStartSection start;
-  start.set_line(0, "A small file written by the tests.");
-  file->set_start_section(start);
-  igs116* p = point(giPoint3(1.0, 2.5, -3.0));
-  EXPECT_EQ(p->directory_entry().set_level(igsLevel(7)), 1);
-  EXPECT_EQ(p->directory_entry().set_entity_label("PT"), 1);
-  EXPECT_EQ(p->directory_entry().set_entity_subscript(2), 1);
-  igs110* l = line(giPoint3(0.0, 0.0, 0.0), giPoint3(10.0, 0.0, 0.125));
-  EXPECT_EQ(l->directory_entry().set_line_font(igsLineFont(igsDashed)), 1);
-  EXPECT_EQ(l->directory_entry().set_colour(igsColour(igsRed)), 1);
-  EXPECT_EQ(l->directory_entry().set_line_weight_number(3), 1);
-  EXPECT_EQ(l->directory_entry().set_status_flags(igsStatusFlags(0, 1, 0, 1)), 1);
-  igs100* a = arc(0.0, giPoint2(0.0, 0.0), giPoint2(1.0, 0.0), giPoint2(0.0, 1.0));
-  EXPECT_EQ(a->directory_entry().set_view(igsObjectPtr(p)), 1);
-  a->directory_entry().set_label_display(igsObjectPtr(l));
-  EXPECT_EQ(written(), small_file);
-  // The file's Terminate section now holds the counts written.
-  igsTerminateSection const& counts = file->terminate_section();
-  EXPECT_EQ(std::vector<int>({counts.start_lines(), counts.global_lines(), counts.directory_lines(),
-                              counts.parameter_lines()}),
-            std::vector<int>({1, 3, 6, 3}));
-  // Writing is repeatable: nothing changed, so nothing changes in the text.
-  EXPECT_EQ(written(), small_file);
-  // And the text read and written again is the same text.
-  int read = 0;
-  std::unique_ptr<igsFile> again = igs_test::read_text(small_file, read);
-  EXPECT_EQ(read, 1);
-  EXPECT_EQ(igs_test::written_text(*again), small_file);
-}
-
-TEST_F(WriteTest, AnEmptyFileHasNoDirectoryOrParameterLines) {
-  std::string text = written();
-  EXPECT_EQ(section_lines(text, 'D').size(), 0u);
-  EXPECT_EQ(section_lines(text, 'P').size(), 0u);
-  EXPECT_EQ(section_lines(text, 'T'), std::vector<std::string>{"S      1G      3D      0P      0" +
-                                                               std::string(40, ' ') + "T      1"});
-  // The Start section of a new file is one blank line.
-  EXPECT_EQ(text.substr(0, 81), std::string(72, ' ') + "S      1\n");
-}
 
 TEST_F(WriteTest, DeletedEntitiesLeaveNoGapAndReferencesFollowTheirTargets) {
   igs116* first = point(giPoint3(0.0, 0.0, 0.0));                        // DE 1, stays 1
@@ -332,47 +272,6 @@ TEST_F(WriteTest, ABackPointerBeyondSevenDigitsFailsTheWriteWithItsError) {
   EXPECT_EQ(messages.text(),
             "Error: IGES limit of 5 million entities exceeded.\nSee the Frequently Asked "
             "Questions in the Help for more details");
-}
-
-TEST_F(WriteTest, TheStructuralCheckFindsTheFaultsOfDamagedFiles) {
-  ASSERT_EQ(igs_test::written_file_faults(small_file), std::vector<std::string>{});
-  // Each case changes the small file at one place: line (from 1), column (from 1), new text.
-  struct Damage {
-    int line;
-    int column;
-    std::string text;
-    std::string fault;
-  };
-  std::vector<Damage> const cases = {
-      {5, 73, "P", "line 6: section D out of order"},
-      {3, 80, "4", "line 3: sequence number '      4', expected 2"},
-      {5, 80, "3", "line 5: sequence number '      3', expected 1"},
-      {9, 73, "X", "line 9: section letter 'X'"},
-      {14, 16, "4", "line 14: T line says 'G      4' for 3 lines"},
-      {7, 8, "1", "line 7: entity types differ on the two D lines"},
-      {7, 16, "3", "line 12: DE 3 says lines 3+1, its record has 2+1"},
-      {10, 32, "2", "line 13: DE 5 says lines 3+2, its record has 3+1"},
-      {12, 72, "5", "line 12: back pointer '      5', expected 3"},
-      {11, 65, "X", "line 11: column 65 is not blank"},
-      {13, 1, "101", "line 13: record of DE 5 does not start with 100"},
-  };
-  for (Damage const& d : cases) {
-    std::string damaged = small_file;
-    damaged.replace(static_cast<size_t>((d.line - 1) * 81 + d.column - 1), d.text.size(), d.text);
-    std::vector<std::string> faults = igs_test::written_file_faults(damaged);
-    EXPECT_NE(std::find(faults.begin(), faults.end(), d.fault), faults.end())
-        << d.fault << "\nfound:\n"
-        << ::testing::PrintToString(faults);
-  }
-  // Lines of the wrong length, a missing line end, and a file without its T line.
-  std::string shortened = small_file;
-  shortened.erase(81 * 4 + 10, 1);
-  EXPECT_EQ(igs_test::written_file_faults(shortened),
-            std::vector<std::string>{"line 5: 79 columns"});
-  EXPECT_EQ(igs_test::written_file_faults(small_file.substr(0, small_file.size() - 1)),
-            std::vector<std::string>{"line 14: no line end"});
-  EXPECT_EQ(igs_test::written_file_faults(small_file.substr(0, small_file.size() - 81)),
-            std::vector<std::string>{"line 13: no T line"});
 }
 
 } // namespace

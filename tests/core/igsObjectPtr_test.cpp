@@ -1,43 +1,8 @@
 #include "core/objectTestSupport.h"
 
-#include <climits>
-
 namespace {
 
 using ReferenceTest = FileTest;
-
-TEST_F(ReferenceTest, DeNumberBindsBeforeTheEntityExistsAndReachesItWhenItArrives) {
-  igsObjectPtr first(1);
-  igsObjectPtr third(5);
-  EXPECT_FALSE(first);
-  EXPECT_TRUE(first == igsObjectPtr());
-  EXPECT_EQ(file->num_managers(), 2); // two placeholders
-  EXPECT_EQ(file->num_entities(), 0);
-
-  auto* a = new testNode(1);
-  EXPECT_EQ(a->de_number(), 1);
-  EXPECT_EQ(first(), a); // the same reference, with nothing done to it
-  EXPECT_EQ(a->num_references(), 1);
-  EXPECT_EQ(file->num_managers(), 2); // the placeholder became the entity's manager
-
-  auto* b = new testNode(2);
-  EXPECT_FALSE(third);
-  auto* c = new testNode(3);
-  EXPECT_EQ(third(), c);
-  EXPECT_EQ(igsObjectPtr(3)(), b); // an existing slot binds at once
-  EXPECT_EQ(file->num_managers(), 3);
-}
-
-TEST_F(ReferenceTest, NumbersThatAreNotPositiveAndOddGiveNullAndAddNothing) {
-  new testNode;
-  for (int de : {0, 2, -3, -1, INT_MIN, 4}) {
-    igsObjectPtr p(de);
-    EXPECT_FALSE(p) << de;
-    EXPECT_TRUE(p == igsObjectPtr()) << de;
-  }
-  EXPECT_EQ(file->num_managers(), 1);
-  EXPECT_EQ(file->num_slots(), 1);
-}
 
 TEST_F(ReferenceTest, DeletingAnEntityNullsEveryReferenceAtOnce) {
   auto* target = new testNode;
@@ -153,18 +118,6 @@ TEST_F(ReferenceTest, ReferenceListGrowsBySteps2Then16Then128) {
     ++walked;
   }
   EXPECT_EQ(walked, 1025);
-}
-
-TEST_F(ReferenceTest, ComparisonAndConversionLookAtTheTargets) {
-  auto* a = new testNode;
-  igsObjectPtr placeholder(11);
-  EXPECT_TRUE(placeholder == igsObjectPtr());
-  EXPECT_EQ(static_cast<void*>(placeholder), nullptr);
-  EXPECT_TRUE(igsObjectPtr(a) == igsObjectPtr(1));
-  EXPECT_FALSE(igsObjectPtr(a) == igsObjectPtr());
-  EXPECT_EQ(static_cast<void*>(igsObjectPtr(a)), static_cast<void*>(a));
-  EXPECT_EQ(&*igsObjectPtr(a), a);
-  EXPECT_EQ(igsObjectPtr(static_cast<igsObject*>(nullptr)), igsObjectPtr());
 }
 
 } // namespace

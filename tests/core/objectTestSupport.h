@@ -97,7 +97,6 @@ class testFile : public igsFile {
   using igsFile::compress;
   using igsFile::remove_forward_references;
   using igsFile::set_pathname;
-  using igsFile::tag_error;
 };
 
 // Each test works on a file of its own, current while the test runs.

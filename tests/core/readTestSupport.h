@@ -91,9 +91,9 @@ class FileText {
       int count = e.count < 0 ? static_cast<int>(e.data.size()) : e.count;
       int start = e.start ? e.start : next_p;
       lines.push_back(record('D', n + 1,
-                             right(e.type, 8) + right(start, 8) + zeros(1) +
-                                 right(e.line_font, 8) + right(e.level, 8) +
-                                 zeros(1) + right(e.matrix, 8) + zeros(1) + e.status));
+                             right(e.type, 8) + right(start, 8) + zeros(1) + right(e.line_font, 8) +
+                                 right(e.level, 8) + zeros(1) + right(e.matrix, 8) + zeros(1) +
+                                 e.status));
       lines.push_back(record('D', n + 2,
                              right(e.second_type, 8) + zeros(1) + right(e.colour, 8) +
                                  right(count, 8) + right(e.form, 8) + std::string(16, ' ') +

@@ -79,7 +79,9 @@ inline std::vector<std::string> entity_prints(igsFile const& file) {
 
 // Where two prints differ: the first place at which their characters differ, or their numbers
 // differ by more than a relative 1e-14 (reals are written with 15 significant digits, so a
-// value with more digits comes back rounded). Empty when they agree.
+// value with more digits comes back rounded). Between two numbers a comma and a line end are
+// the same: a print that keeps equal values on one line (knots) may join values that differed
+// only in digits the write rounds off. Empty when they agree.
 inline std::string print_difference(std::string const& a, std::string const& b) {
   auto starts_number = [](std::string const& s, size_t i) {
     auto digit = [&](size_t k) { return k < s.size() && s[k] >= '0' && s[k] <= '9'; };

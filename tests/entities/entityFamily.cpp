@@ -108,8 +108,8 @@ std::string file_text(Records const& records) {
   for (Record const& r : records) {
     igs_read_test::EntityText& e = text.entity(text.add(r.type, r.form, cut(r.data), r.matrix));
     e.colour = r.colour;
-    e.status = r.status;
     e.line_font = r.line_font;
+    e.status = r.status;
   }
   return text.text();
 }

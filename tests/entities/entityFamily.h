@@ -99,8 +99,9 @@ inline CorpusRow const* corpus_row(kvuTypeInfo const& type) {
 }
 
 // One entity of a test file: type, form and the whole parameter record, which the file cuts
-// into P lines behind its delimiters, and the DE number of its transformation matrix, its
-// colour number, its status number (eight digits) and its line font number.
+// into P lines behind its delimiters, the DE number of its transformation matrix, its colour
+// number, its status number (eight digits) and its line font number (given by name:
+// {.type = ..., .line_font = 1}).
 struct Record {
   int type;
   int form;

@@ -114,31 +114,6 @@ class FixerTest : public FileTest {
   igsFixer fixer;
 };
 
-TEST(FixNodeTest, TheTravellerLeavesTheLongestPathFromTheRootInEachNode) {
-  // root -> a -> c and root -> b -> a: a is reached at 2 first, then at 3 through b, and c
-  // follows it down to 4. A duplicate edge counts as a child of its own.
-  igsFixNode root, a, b, c;
-  root.depends_on(&a);
-  root.depends_on(&b);
-  b.depends_on(&a);
-  a.depends_on(&c);
-  a.depends_on(&c);
-  root.depends_on(nullptr);
-  EXPECT_EQ(root.num_children(), 2);
-  EXPECT_EQ(a.num_children(), 2);
-  igsTraveller traveller;
-  root.accept_traveller(traveller);
-  EXPECT_EQ(traveller.distance_travelled(), 0); // every node entered was left
-  EXPECT_EQ(root.distance(), 1);
-  EXPECT_EQ(b.distance(), 2);
-  EXPECT_EQ(a.distance(), 3);
-  EXPECT_EQ(c.distance(), 4);
-
-  // A second walk from the same root finds nothing longer and changes nothing.
-  root.accept_traveller(traveller);
-  EXPECT_EQ(c.distance(), 4);
-}
-
 TEST(FixNodeTest, ALongChainIsWalkedWithoutDeepeningTheCallStack) {
   constexpr int length = 200000;
   std::vector<igsFixNode> chain(length);

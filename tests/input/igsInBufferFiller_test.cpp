@@ -98,31 +98,6 @@ TEST(igsInBufferFiller, RepairsLinesIntoRecords) {
   }
 }
 
-TEST(igsInBufferFiller, EveryLineEndGivesTheSameRecords) {
-  Lines lines = sound_file();
-  std::string open_end = join(lines);
-  open_end.pop_back();
-  for (std::string bytes :
-       {join(lines), join(lines, "\r\n"), join(lines, "\r"), join(lines, ""), open_end}) {
-    FillerRun run = fill(bytes);
-    EXPECT_EQ(run.lines, lines);
-    EXPECT_EQ(run.end_codes, end_of_input);
-  }
-}
-
-TEST(igsInBufferFiller, PointWarningsArePrintedOncePerFiller) {
-  WarningCatcher warnings;
-  fill(p1 + "\n" + p2.substr(1) + "\n" + p3 + "\n" + p4.substr(1) + "\n");
-  EXPECT_EQ(warnings.sink.text(),
-            "Warning: This file is corrupt - it contains lines missing a decimal point at the "
-            "start.\nA decimal point will be inserted at the start of such lines.\n");
-  warnings.sink.clear();
-  fill("." + p2 + "\n." + p4 + "\n");
-  EXPECT_EQ(warnings.sink.text(),
-            "Warning: This file is corrupt - it contains lines starting with two decimal "
-            "points.\nOne of the decimal points will be removed from such lines.\n ");
-}
-
 TEST(igsInBufferFiller, EndOfInputAndFailedStreams) {
   std::istringstream in(s1 + "\n");
   LineHolder holder;

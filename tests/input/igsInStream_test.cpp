@@ -186,8 +186,7 @@ TEST(igsInStream, AStoppedStreamGivesDefaultsUntilReset) {
   EXPECT_TRUE(r.stream.error_type(igsIOEndOfFile) && r.stream.error_type(igsIOStreamFailed));
 }
 
-// Fixed-width and delimited reads on their own, and delimiters of the file's own: values and
-// codes are the round trip's (output tests) and the Directory Entry reader's (core tests).
+// Fixed-width and delimited reads on their own, and delimiters of the file's own.
 TEST(igsInStream, AFixedFieldWiderThanTheLineAndAnotherDelimiter) {
   Reader r({record('D', 1, "  1 2   "), record('P', 1, "1|,|4#", 1)});
   int v = -1;

@@ -111,47 +111,6 @@ TEST(igsOutStream, LaysFieldsIntoLines) {
   }
 }
 
-TEST(igsOutStream, FailingStreamFreezesUntilCollectedAndReset) {
-  FailingBuf failing(2 * 81 + 10);
-  std::ostream out(&failing);
-  std::ostringstream good; // the destination taken later, which must outlive the stream
-  igsOutStream s(&out);
-  s.set_section(igsSectionParameter);
-  for (int i = 0; i < 40; ++i) s.write_integer(1000 + i); // 40 fields of 5: four lines
-  EXPECT_TRUE(s.frozen());
-  EXPECT_TRUE(out.bad());
-  EXPECT_EQ(failing.text().size(), 2u * 81 + 10);
-  // The codes stand, and reset refuses until they are collected.
-  EXPECT_EQ(s.reset(), 0);
-  igsFileSection section;
-  int line = 0;
-  int column = -1;
-  s.position(section, line, column);
-  EXPECT_EQ(line, 3); // the line that failed
-  EXPECT_EQ(column, 0);
-  EXPECT_EQ(describe_codes(s), (Lines{"igsIOStreamBad@P3:0", "igsIOStreamFailed@P3:0"}));
-  EXPECT_TRUE(s.error_type(igsIOStreamBad));
-  EXPECT_FALSE(s.error_type(igsIOLineNumberTooLarge));
-  // Frozen, a write goes nowhere and the cursor stays.
-  s.write_integer(5);
-  s.position(section, line, column);
-  EXPECT_EQ(column, 0);
-  EXPECT_FALSE(s.error()); // the write cleared what was collected; nothing new
-  EXPECT_EQ(s.reset(), 1);
-  EXPECT_FALSE(s.frozen());
-  // The stream is still bad: the next line fails again.
-  for (int i = 0; i < 13; ++i) s.write_integer(2000 + i);
-  EXPECT_TRUE(s.frozen());
-  EXPECT_TRUE(s.error_type(igsIOStreamFailed));
-  // A new destination takes the lines from there on; the numbers and the record run on.
-  s.set_destination(&good);
-  EXPECT_EQ(s.reset(), 1);
-  s.write_integer(7);
-  s.set_backpointer(3);
-  EXPECT_FALSE(s.error());
-  EXPECT_EQ(lines_of(good.str()), Lines{record('P', 5, ",7;", 1)});
-}
-
 TEST(igsOutStream, StreamsThatFailOtherwise) {
   {
     // A stream told to throw for its bad bit does not throw: only the codes tell.

@@ -140,25 +140,4 @@ TEST_F(DECheckTest, RepairsSetTheDefaultsAndReportWhatStays) {
   EXPECT_EQ(left, (Lines{"igsDEInvalidEntitySubscript()@1", "igsDEInvalidStatusFlags()@1"}));
 }
 
-TEST_F(DECheckTest, ALineFontPointingNowhereFailsAndRepairsToNoPattern) {
-  auto* entity = new deNode(IGS_DE_LINE_FONT | IGS_DE_COLOUR);
-  igsDirectoryFields f;
-  f.line_font = -7; // no entity at DE 7
-  f.colour = -9;
-  entity->directory_entry().set_fields(f);
-  EXPECT_EQ(entity->check(), 0);
-  EXPECT_EQ(describe(igsObjectLog), (Lines{"igsDEInvalidLineFont()@1", "igsDEInvalidColour()@1"}));
-  EXPECT_EQ(fix_all(igsObjectLog), (std::vector<int>{1, 1}));
-  EXPECT_EQ(entity->directory_entry().line_font().value(), igsNoPattern);
-  EXPECT_EQ(entity->check(), 1);
-
-  // A repair whose entity has gone has nothing to work on.
-  entity->directory_entry().set_fields(f);
-  entity->check();
-  std::vector<igsError*> left = errors_in(igsObjectLog);
-  ASSERT_EQ(left.size(), 2u);
-  delete entity;
-  EXPECT_EQ(left[0]->fix() + left[1]->fix(), 0);
-}
-
 } // namespace

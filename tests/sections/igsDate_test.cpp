@@ -132,16 +132,4 @@ TEST_F(igsDateTest, TodayAndWrittenDatesInTheFormOfTheirYearReadBack) {
   EXPECT_EQ(text.str(), "990101.000000");
 }
 
-TEST(igsDate, SystemClockGivesTheLocalYearAndACheckableDate) {
-  igsDate::Clock before = igsDate::set_clock(nullptr);
-  EXPECT_EQ(igsDate().check(), 1);
-  std::time_t now = std::time(nullptr);
-  std::tm local{};
-  localtime_r(&now, &local);
-  int p[6];
-  igsDate::todays_date(p[0], p[1], p[2], p[3], p[4], p[5]);
-  EXPECT_EQ(p[0], local.tm_year + 1900);
-  EXPECT_EQ(igsDate::set_clock(before), before);
-}
-
 } // namespace

@@ -253,24 +253,6 @@ TEST_F(GlobalSectionTest, ParametersLeftOutTakeTheirDefaultsAndSomeAreErrors) {
   EXPECT_EQ(global.product_id_for_receiving_system(), "PART");
 }
 
-TEST_F(GlobalSectionTest, LineWeightsOutOfRangeAreHeldAtTheLimits) {
-  std::string const head = "1H,,1H;,1HP,1HF,1HS,1HV,32,38,6,308,15,,1.,2,2HMM,";
-  std::tuple<std::string, int, int> const cases[] = {
-      {"0", 1, 1}, {"-5", 1, 1}, {"40000", 32768, 1}, {"32768", 32768, 0}, {"1", 1, 0}, {"", 1, 0}};
-  for (auto const& [field, stored, raised] : cases) {
-    SCOPED_TRACE(field);
-    ASSERT_EQ(read(head + field + ",0.,13H240101.120000,1E-6,1000.,1HA,1HO,11,0;"), 1);
-    Lines errors = describe(igsGlobalLog);
-    EXPECT_EQ(errors.size(), static_cast<size_t>(raised));
-    if (raised) {
-      EXPECT_EQ(errors[0],
-                "igsGlobalSectionInvalidMaxNumLineWeightGrads(" + std::to_string(stored) + ")");
-    }
-    EXPECT_EQ(fix_all(igsGlobalLog), std::vector<int>(errors.size(), 1));
-    EXPECT_EQ(global.max_number_of_line_weights(), stored);
-  }
-}
-
 TEST_F(GlobalSectionTest, TheModificationDateFromVersion8On) {
   // Parameters 3 to 17 left out, a creation date, 19 to 22 left out, a version.
   std::string const head = "1H,,1H;," + std::string(15, ',') + "13H240101.120000,,,,,";

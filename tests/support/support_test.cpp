@@ -218,9 +218,16 @@ TEST(Geometry, UnsetValuesLengthsMatricesAndTransforms) {
   EXPECT_DOUBLE_EQ(utMath::pow(2.0, 10), 1024.0);
   giVector3 v(0, 0, 2);
   EXPECT_DOUBLE_EQ(v.orthogonal().dot(v), 0.0);
+  // A zero vector is refused and left alone; any other comes out of unit length.
+  giVector2 zero2(0, 0), unit2(3, 4);
+  giVector3 zero3(0, 0, 0);
+  EXPECT_EQ(zero2.unitize() + zero3.unitize(), 0);
+  EXPECT_TRUE(zero2.x() == 0.0 && zero3.z() == 0.0);
+  EXPECT_EQ(unit2.unitize() + v.unitize(), 2);
+  EXPECT_TRUE(unit2.x() == 0.6 && v.z() == 1.0);
 
   // A new matrix is the identity and writes nothing beyond its own 16 values.
-  alignas(giMatrix4) unsigned char store[sizeof(giMatrix4) + 8];
+  alignas(giMatrix4) unsigned char store[sizeof(giMatrix4) + 4 * sizeof(double)];
   std::memset(store, 0x5a, sizeof store);
   giMatrix4& identity = *new (store) giMatrix4;
   for (int r = 0; r < 4; ++r)
@@ -230,12 +237,15 @@ TEST(Geometry, UnsetValuesLengthsMatricesAndTransforms) {
   double values[4][4];
   for (int r = 0; r < 4; ++r)
     for (int c = 0; c < 4; ++c) values[r][c] = 10 * r + c;
-  giMatrix4 m, t;
+  giMatrix4 m;
   m.become(values);
+  std::memset(store, 0x5a, sizeof store); // the transpose lands where nothing follows unseen
+  giMatrix4& t = *new (store) giMatrix4;
   t.become(giMatrixTransposeTag, m);
   m.transpose();
   for (int r = 0; r < 4; ++r)
     for (int c = 0; c < 4; ++c) EXPECT_TRUE(m(r, c) == 10 * c + r && t(r, c) == m(r, c));
+  for (size_t i = sizeof(giMatrix4); i < sizeof store; ++i) EXPECT_EQ(store[i], 0x5a);
 
   giXform3 translate(giXformTranslateTag, 1, 2, 3), scale(giXformScaleTag, 2, 2, 2), product;
   EXPECT_TRUE(product.invalid());

@@ -64,13 +64,11 @@ template <class Member> class igsMemberList {
   // reads nothing. 0 if the members could not be stored.
   template <class ReadOne> int read(igsInStream& in, int count, ReadOne const& read_one) {
     m_count = count;
-    if (!igs_read_members(in, count, m_members, [&] {
+    if (!igs_read_counted_members(in, count, m_members, [&] {
           Member member;
           read_one(in, member);
           return member;
         }))
-      return 0;
-    if (count > m_members.size() && count <= igs_max_initial_reserve && !m_members.expand(count))
       return 0;
     if (count > 0) m_count = m_members.size();
     set_index_list();

@@ -109,9 +109,9 @@ int igs114::read_pd_data(igsInStream& in) {
   m_u.clear(1);
   m_v.clear(1);
   m_patches.clear(1);
-  if (!read_breakpoints(in, m_u, m + 1)) {
+  if (!igs_read_breakpoints(in, m_u, m + 1)) {
     raise_error<igs114BadNumUPatches>(m);
-  } else if (!read_breakpoints(in, m_v, n + 1)) {
+  } else if (!igs_read_breakpoints(in, m_v, n + 1)) {
     raise_error<igs114BadNumVPatches>(n);
   } else if (read_patches(in)) {
     return 1;
@@ -124,27 +124,8 @@ int igs114::read_pd_data(igsInStream& in) {
   return 0;
 }
 
-// Appends `count` values given by `read_one()` within the room made first, and beyond it
-// while the record lasts; 0 when it ended first or memory ran out.
-template <class T, class ReadOne>
-static int read_counted(igsInStream& in, coDynArr<T>& values, int count, int room,
-                        ReadOne const& read_one) {
-  if (!values.reserve(count < room ? count : room)) return 0;
-  for (int i = 0; i < count; ++i)
-    if ((i >= room && in.frozen()) || !values.append(read_one())) return 0;
-  return 1;
-}
-
-int igs114::read_breakpoints(igsInStream& in, coDynArr<double>& breakpoints, int count) {
-  return read_counted(in, breakpoints, count, igs_max_initial_reserve, [&] {
-    double value = 0.0;
-    in.read_double(value);
-    return value;
-  });
-}
-
 int igs114::read_patches(igsInStream& in) {
-  return read_counted(in, m_patches, m_u.size() * m_v.size(), max_initial_patches, [&] {
+  return igs_read_counted(in, m_patches, m_u.size() * m_v.size(), max_initial_patches, [&] {
     double x[16], y[16], z[16];
     for (double* block : {x, y, z})
       for (int k = 0; k < 16; ++k) {
@@ -176,23 +157,6 @@ void igs114::write_pd_data(igsOutStream& out) {
 
 // --- Printing and checking -----------------------------------------------------------------
 
-static char const* spline_type_word(int type) {
-  static char const* const words[] = {
-      "(Linear)",  "(Quadratic)", "(Cubic)", "(Wilson-Fowler)", "(Modified Wilson-Fowler)",
-      "(B Spline)"};
-  return static_cast<unsigned>(type - 1) < 6u ? words[type - 1] : "(Unknown)";
-}
-
-static void print_breakpoints(utOstream& out, char const* heading,
-                              coDynArr<double> const& breakpoints) {
-  out << heading << "\n";
-  {
-    utOstream nested(utOstreamTabTag, out, 1, 0);
-    for (double value : breakpoints) nested << value << "\n";
-  }
-  out << "}\n";
-}
-
 void igs114::print_patch(utOstream& out, int i, int j) const {
   out << "Patch (" << i << "," << j << ") = {\n";
   {
@@ -204,13 +168,13 @@ void igs114::print_patch(utOstream& out, int i, int j) const {
 
 // The patches go V index outer, the reverse of the file's order.
 void igs114::print_pd_data(utOstream& out) const {
-  out << "SplineType = " << m_spline_type << spline_type_word(m_spline_type) << "\n";
+  out << "SplineType = " << m_spline_type << igs_spline_type_word(m_spline_type) << "\n";
   out << "PatchType = " << m_patch_type
       << igs_flag_word(m_patch_type, "(Unspecified)", "(Cartesian Product)", "(Unknown)") << "\n";
   out << "NoOfPatchesInU = " << m_u.size() << "\n";
   out << "NoOfPatchesInV = " << m_v.size() << "\n";
-  print_breakpoints(out, "UBreakpoints = {", m_u);
-  print_breakpoints(out, "VBreakpoints = {", m_v);
+  igs_print_breakpoints(out, "UBreakpoints = {", m_u);
+  igs_print_breakpoints(out, "VBreakpoints = {", m_v);
   out << "Patches = {\n";
   {
     utOstream nested(utOstreamTabTag, out, 1, 0);
@@ -221,21 +185,6 @@ void igs114::print_pd_data(utOstream& out) const {
   out << "}\n";
 }
 
-// Breakpoints in order, each compared with the greatest before it; equal ones pass.
-template <class Unset, class OutOfSequence>
-static void check_breakpoints(coDynArr<double> const& breakpoints, Unset const& unset,
-                              OutOfSequence const& out_of_sequence) {
-  double previous = igs_unset_double;
-  for (int i = 0; i < breakpoints.size(); ++i) {
-    double value = breakpoints[i];
-    if (igs_unset(value)) unset(i);
-    if (previous > value)
-      out_of_sequence(i, value, previous);
-    else
-      previous = value;
-  }
-}
-
 // Neither the continuity between the patches nor the spline type is tested on the
 // coefficients: a linear surface may have cubic terms.
 void igs114::check_pd() const {
@@ -244,12 +193,12 @@ void igs114::check_pd() const {
   if (static_cast<unsigned>(m_spline_type) - 1u > 5u)
     raise_error<igs114InvalidSplineType>(m_spline_type);
   if (static_cast<unsigned>(m_patch_type) > 1u) raise_error<igs114InvalidPatchType>(m_patch_type);
-  check_breakpoints(
+  igs_check_breakpoints(
       m_u, [&](int i) { raise_error<igs114UnsetUBreakpoint>(i); },
       [&](int i, double value, double previous) {
         raise_error<igs114UBreakpointOutOfSequence>(i, value, previous);
       });
-  check_breakpoints(
+  igs_check_breakpoints(
       m_v, [&](int i) { raise_error<igs114UnsetVBreakpoint>(i); },
       [&](int i, double value, double previous) {
         raise_error<igs114VBreakpointOutOfSequence>(i, value, previous);

@@ -40,7 +40,6 @@ class igs114 : public igsParameterizedSurface {
   int set_patch(int i, int j, igsCubicPatch const& patch);
 
  protected:
-  int read_breakpoints(igsInStream& in, coDynArr<double>& breakpoints, int count);
   int read_patches(igsInStream& in);
   void print_patch(utOstream& out, int i, int j) const;
 

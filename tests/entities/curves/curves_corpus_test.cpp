@@ -1,9 +1,12 @@
 // The curve and point classes as their accessors give their parameters, for the corpus test.
 #include "entities/curves/igs100.h"
 #include "entities/curves/igs102.h"
+#include "entities/curves/igs104.h"
 #include "entities/curves/igs110.h"
+#include "entities/curves/igs112.h"
 #include "entities/curves/igs116.h"
 #include "entities/curves/igs126.h"
+#include "entities/curves/igs130.h"
 #include "entities/curves/igsPointset.h"
 #include "entities/curves/igsPolyline.h"
 #include "entities/curves/igsSimpleClosedPlanarCurve.h"
@@ -70,6 +73,38 @@ CorpusRows const curves = {
       double start = 0.0, end = 0.0;
       e.parametric_limits(start, end);
       v << start << end << e.unit_normal();
+    }),
+    row<igs104>([](igs104 const& e, Values& v) {
+      double coeffs[6];
+      e.coeffs().coeffs(coeffs);
+      for (double c : coeffs) v << c;
+      v << e.z_level() << e.start_point() << e.end_point();
+    }),
+    // CTYPE, H, NDIM, N, the breakpoints, X, Y and Z of each segment, the derivatives.
+    row<igs112>([](igs112 const& e, Values& v) {
+      v << e.spline_type() << e.continuity() << e.dimensionality() << e.number_of_segments();
+      double value = 0.0, four[4];
+      for (int i = 0; i < e.number_of_breakpoints(); ++i) v << (e.breakpoint(i, value), value);
+      igsCubicCoefficients x, y, z;
+      for (int i = 0; i < e.number_of_segments(); ++i) {
+        e.segment(i, x, y, z, value, value);
+        for (igsCubicCoefficients const* c : {&x, &y, &z}) {
+          c->coefficients(four);
+          for (double f : four) v << f;
+        }
+      }
+      igsCubicDerivatives dx, dy, dz;
+      e.xyz_derivatives(dx, dy, dz);
+      for (igsCubicDerivatives const* d : {&dx, &dy, &dz}) {
+        d->derivatives(four);
+        for (double f : four) v << f;
+      }
+    }),
+    row<igs130>([](igs130 const& e, Values& v) {
+      v << e.basis_curve() << e.offset_distance_type() << e.function_curve()
+        << e.function_curve_index() << e.offset_distance_taper_type() << e.first_offset_distance()
+        << e.first_offset_amount() << e.second_offset_distance() << e.second_offset_amount()
+        << e.plane_normal() << e.start_parameter() << e.end_parameter();
     }),
 };
 

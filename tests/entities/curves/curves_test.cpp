@@ -2,9 +2,12 @@
 // what check and repair make of it.
 #include "entities/curves/igs100.h"
 #include "entities/curves/igs102.h"
+#include "entities/curves/igs104.h"
 #include "entities/curves/igs110.h"
+#include "entities/curves/igs112.h"
 #include "entities/curves/igs116.h"
 #include "entities/curves/igs126.h"
+#include "entities/curves/igs130.h"
 #include "entities/curves/igsCurveErrors.h"
 #include "entities/curves/igsPointset.h"
 #include "entities/curves/igsPolyline.h"
@@ -15,6 +18,20 @@
 using namespace igs_family_test;
 
 namespace {
+
+// Conics of each kind: x^2 + 4y^2 = 4, x^2 - y^2 = 9 and y = x^2 at Z 5; a straight line, and
+// the pair of lines x^2 = y^2, which are of no kind.
+#define ELLIPSE "104,1.,0.,4.,0.,0.,-4.,0.,2.,0.,0.,1.;"
+#define HYPERBOLA "104,1.,0.,-1.,0.,0.,-9.,0.,3.,0.,5.,4.;"
+#define PARABOLA "104,1.,0.,0.,0.,-1.,0.,5.,-1.,1.,2.,4.;"
+#define LINE "104,0.,0.,0.,1.,1.,-1.,0.,1.,0.,0.,1.;"
+#define LINE_PAIR "104,1.,0.,-1.,0.,0.,0.,0.,1.,1.,2.,2.;"
+
+std::string zeros(int n) {
+  std::string text;
+  for (int i = 0; i < n; ++i) text += "0.,";
+  return text;
+}
 
 Family const curves = {
     "curves",
@@ -63,6 +80,20 @@ Family const curves = {
         {102, 0, "102,3,9,35,37;"},
         {102, 0, "102,2,1,3;"},
         {102, 0, "102,3,41,27,3;"},
+        // DE 47 to 53: an ellipse, a hyperbola, a parabola at Z 5, and a circle of form 0.
+        {104, 1, ELLIPSE},
+        {104, 2, HYPERBOLA},
+        {104, 3, PARABOLA},
+        {104, 0, "104,1.,0.,1.,0.,0.,-1.,0.,1.,0.,0.,1.;"},
+        // DE 55: two planar cubic segments, (t, t^2) and (1 + t, (1 + t)^2).
+        {112, 0,
+         "112,3,2,2,2,0.,1.,2.,0.,1.,0.,0.,0.,0.,1.,0.,0.,0.,0.,0.,1.,1.,0.,0.,1.,2.,1.,0.,0.,0.,"
+         "0.,0.,2.,1.,0.,0.,4.,4.,1.,0.,0.,0.,0.,0.;"},
+        // DE 57 to 61: offsets of the line, uniform; of the arc, linear by arc length; of the
+        // line by the second coordinate of the B-spline curve, by parameter.
+        {130, 0, "130,9,1,0,0,0,2.5,0.,0.,0.,0.,0.,1.,0.,1.;"},
+        {130, 0, "130,13,2,0,0,1,1.,.25,2.,.75,0.,0.,1.,0.,1.;"},
+        {130, 0, "130,9,3,35,2,2,0.,0.,0.,0.,0.,0.,1.,0.,1.;"},
     }};
 
 TEST(Curves, TheFamilyFile) {
@@ -304,6 +335,97 @@ Damage const damages[] = {
      "Warning : sub curve DE 7 has been removed from composite curve DE 1\n"
      "Warning : sub curve DE 3 has been removed from composite curve DE 1\n",
      "102,2,5,9;"},
+
+    // Conic arcs: each form with the coefficients of each other kind takes the form of its
+    // kind; conics of no kind have none to take.
+    {"conic arcs whose coefficients say another kind than the form",
+     {{104, 1, HYPERBOLA},
+      {104, 1, PARABOLA},
+      {104, 2, ELLIPSE},
+      {104, 2, PARABOLA},
+      {104, 3, ELLIPSE},
+      {104, 3, HYPERBOLA},
+      {104, 3, LINE},
+      {104, 0, LINE},
+      {104, 2, LINE_PAIR}},
+     {"@1 igs104NotEllipse", "@11 igs104NotParabola", "@13 igs104NotParabola",
+      "@15 igs104UnknownType", "@17 igs104NotHyperbola", "@3 igs104NotEllipse",
+      "@5 igs104NotHyperbola", "@7 igs104NotHyperbola", "@9 igs104NotParabola"},
+     {"@13 igs104NotParabola", "@15 igs104UnknownType", "@17 igs104NotHyperbola"}},
+
+    // Parametric spline curves.
+    {"a spline type, continuity and dimensionality out of range are set to cubic, 0 and "
+     "non-planar; the Z coefficients stay",
+     {{112, 0,
+       "112,7,3,4,1,0.,1.,0.,1.,0.,0.,0.,0.,0.,0.,5.,6.,7.,8.,1.,0.,0.,0.,0.,0.,0.,0.,5.,"
+       "6.,7.,8.;"}},
+     {"@1 igs112InvalidContinuity(value=3)", "@1 igs112InvalidDimensionality(value=4)",
+      "@1 igs112InvalidSplineType(value=7)"},
+     {},
+     "",
+     "112,3,0,3,1,0.,1.,0.,1.,0.,0.,0.,0.,0.,0.,5.,6.,7.,8.,1.,0.,0.,0.,0.,0.,0.,0.,5.,6.,7.,"
+     "8.;"},
+    {"breakpoints out of order stay (DE 1); no segments (3), or more than the record holds (5), "
+     "are not read",
+     {{112, 0, "112,3,0,3,3,0.,2.,1.,3.," + zeros(47) + "0.;"},
+      {112, 0, "112,3,0,3,0;"},
+      {112, 0, "112,3,0,3,2000000000,0.,1.;"}},
+     {"@1 igs112BreakpointOutOfSequence(index=2,value=1,last=2)",
+      "@3 igs112BadNumSegments(count=0)", "@3 igsFileNoPDData(de_number=3)",
+      "@5 igs112BadNumSegments(count=2000000000)", "@5 igsFileNoPDData(de_number=5)"},
+     {"@1 igs112BreakpointOutOfSequence(index=2,value=1,last=2)",
+      "@3 igs112BadNumSegments(count=0)", "@5 igs112BadNumSegments(count=2000000000)"},
+     "Warning : There is no Parameter Data associated with object DE 3.\n"
+     "Warning : There is no Parameter Data associated with object DE 5.\n"},
+
+    // Offset curves.
+    {"a normal of length 2 is made a unit vector (DE 1); a zero normal cannot be (5)",
+     {{130, 0, "130,3,1,0,0,0,2.5,0.,0.,0.,0.,0.,2.,0.,1.;"},
+      {110, 0, "110,0.,0.,0.,1.,0.,0.;"},
+      {130, 0, "130,3,1,0,0,0,2.5,0.,0.,0.,0.,0.,0.,0.,1.;"}},
+     {"@1 igs130PlaneNormalNotUnitVector", "@5 igs130InvalidPlaneNormal",
+      "@5 igs130PlaneNormalNotUnitVector"},
+     {"@5 igs130InvalidPlaneNormal", "@5 igs130PlaneNormalNotUnitVector"},
+     "",
+     "130,3,1,0,0,0,2.5,0.,0.,0.,0.,0.,1.,0.,1.;"},
+    {"uniform with a function curve, an index and an amount, over no range (DE 1); flags out of "
+     "range (5); linear with a zero distance or amount, the first zero told (7 to 13); by a "
+     "function curve that is missing, with no index and with a distance (15)",
+     {{130, 0, "130,3,1,3,2,0,2.5,1.,0.,0.,0.,0.,1.,1.,1.;"},
+      {110, 0, "110,0.,0.,0.,1.,0.,0.;"},
+      {130, 0, "130,3,4,0,0,3,0.,0.,0.,0.,0.,0.,1.,0.,1.;"},
+      {130, 0, "130,3,2,0,0,1,0.,1.,2.,0.,0.,0.,1.,0.,1.;"},
+      {130, 0, "130,3,2,0,0,1,1.,0.,2.,1.,0.,0.,1.,0.,1.;"},
+      {130, 0, "130,3,2,0,0,2,1.,1.,0.,1.,0.,0.,1.,0.,1.;"},
+      {130, 0, "130,3,2,0,0,2,1.,1.,2.,0.,0.,0.,1.,0.,1.;"},
+      {130, 0, "130,3,3,0,0,1,1.,0.,0.,0.,0.,0.,1.,0.,1.;"}},
+     {"@1 igs130FieldMismatch", "@1 igs130FieldMismatch", "@1 igs130FieldMismatch",
+      "@1 igs130InvalidStartEndParameters", "@11 igs130InvalidOffsetDistance2",
+      "@13 igs130InvalidOffsetAmount2", "@15 igs130FieldMismatch", "@15 igs130InvalidCoordIndex",
+      "@15 igs130NullFunctionCurvePtr", "@5 igs130InvalidOffsetDistanceFlag",
+      "@5 igs130InvalidTaperedOffsetFlag", "@7 igs130InvalidOffsetDistance1",
+      "@9 igs130InvalidOffsetAmount1"},
+     {"@1 igs130FieldMismatch", "@1 igs130FieldMismatch", "@1 igs130FieldMismatch",
+      "@1 igs130InvalidStartEndParameters", "@11 igs130InvalidOffsetDistance2",
+      "@13 igs130InvalidOffsetAmount2", "@15 igs130FieldMismatch", "@15 igs130InvalidCoordIndex",
+      "@15 igs130NullFunctionCurvePtr", "@5 igs130InvalidOffsetDistanceFlag",
+      "@5 igs130InvalidTaperedOffsetFlag", "@7 igs130InvalidOffsetDistance1",
+      "@9 igs130InvalidOffsetAmount1"}},
+    {"basis and function curves that are missing, of another kind or broken",
+     {{130, 0, "130,0,1,0,0,0,1.,0.,0.,0.,0.,0.,1.,0.,1.;"},
+      {130, 0, "130,11,1,0,0,0,1.,0.,0.,0.,0.,0.,1.,0.,1.;"},
+      {130, 0, "130,13,1,0,0,0,1.,0.,0.,0.,0.,0.,1.,0.,1.;"},
+      {130, 0, "130,15,3,11,1,0,0.,0.,0.,0.,0.,0.,1.,0.,1.;"},
+      {130, 0, "130,15,3,13,1,0,0.,0.,0.,0.,0.,0.,1.,0.,1.;"},
+      {116, 0, "116,0.,0.,0.,0;"},
+      {100, 0, "100,0.,3.,4.,3.,4.,3.,4.;"},
+      {110, 0, "110,0.,0.,0.,1.,0.,0.;"}},
+     {"@1 igs130NullBasisCurvePtr", "@13 igs100ZeroRadius", "@3 igs130InvalidBasisCurveType",
+      "@5 igs130InvalidBasisCurveData", "@7 igs130InvalidFunctionCurveType",
+      "@9 igs130InvalidFunctionCurveData"},
+     {"@1 igs130NullBasisCurvePtr", "@13 igs100ZeroRadius", "@3 igs130InvalidBasisCurveType",
+      "@5 igs130InvalidBasisCurveData", "@7 igs130InvalidFunctionCurveType",
+      "@9 igs130InvalidFunctionCurveData"}},
 };
 
 TEST(Curves, EveryDamageIsFoundAndWhatCanBeRepairedIs) {
@@ -557,6 +679,130 @@ TEST_F(CurveSetters, CompositeCurves) {
   igsObjectPtr top(composite);
   top.unreference();
   EXPECT_EQ(file->num_entities(), 2);
+}
+
+} // namespace
+
+namespace {
+
+// A conic arc of each form with the coefficients of another kind: the error its check raises,
+// and the form that the repair leaves (the same form when the repair cannot act).
+TEST_F(CurveSetters, ConicArcsTakeTheFormOfTheirCoefficients) {
+  igsConicCoeffs const ellipse(1, 0, 4, 0, 0, -4), hyperbola(1, 0, -1, 0, 0, -9),
+      parabola(1, 0, 0, 0, -1, 0), circle(1, 0, 1, 0, 0, -1), line(0, 0, 0, 1, 1, -1);
+  // Conics so small that their invariants fall within the tolerance: the exact signs decide.
+  igsConicCoeffs const small_ellipse(1e-5, 0, 1e-5, 0, 0, -1e-5),
+      small_hyperbola(1e-5, 0, -1e-5, 0, 0, -1e-5), small_parabola(1e-5, 0, 0, 0, -1e-5, 0);
+  struct Case {
+    igsConicCoeffs coeffs;
+    int form;
+    kvuTypeInfo const* raised;
+    int fixed_form;
+  } const cases[] = {
+      {circle, 2, &igs104NotHyperbola::type(), 1},
+      {hyperbola, 1, &igs104NotEllipse::type(), 2},
+      {parabola, 1, &igs104NotEllipse::type(), 3},
+      {ellipse, 2, &igs104NotHyperbola::type(), 1},
+      {parabola, 2, &igs104NotHyperbola::type(), 3},
+      {ellipse, 3, &igs104NotParabola::type(), 1},
+      {hyperbola, 3, &igs104NotParabola::type(), 2},
+      {small_ellipse, 2, &igs104NotHyperbola::type(), 1},
+      {small_hyperbola, 3, &igs104NotParabola::type(), 2},
+      {small_parabola, 1, &igs104NotEllipse::type(), 3},
+      {line, 3, &igs104NotParabola::type(), 3},
+      {line, 1, &igs104NotEllipse::type(), 1},
+      {line, 0, &igs104UnknownType::type(), 0},
+  };
+  for (Case const& c : cases) {
+    auto* conic = new igs104;
+    ASSERT_TRUE(conic->set_start_point(giPoint2(1, 0)) && conic->set_end_point(giPoint2(0, 1)));
+    conic->set_z_level(0.0);
+    // Coefficients of no kind are refused by the setter; a file gives them all the same.
+    if (!conic->set_coeffs(c.coeffs)) const_cast<igsConicCoeffs&>(conic->coeffs()) = c.coeffs;
+    igs_entity_test::Access::set_form(*conic, c.form);
+    std::vector<std::string> raised = checked(*conic);
+    EXPECT_EQ(raised, std::vector<std::string>{c.raised->name()}) << c.form;
+    EXPECT_EQ(fix(conic->de_number(), *c.raised), c.coeffs.conic_type() != igsConicUnknown);
+    EXPECT_EQ(conic->directory_entry().form_number(), c.fixed_form) << c.form;
+  }
+  auto* unset = new igs104;
+  EXPECT_FALSE(unset->set_coeffs(line));
+  EXPECT_FALSE(unset->coeffs().valid());
+  EXPECT_EQ(checked(*unset), (std::vector<std::string>{"igs104NoConstruct", "igs104UnknownType"}));
+  ASSERT_TRUE(unset->set_coeffs(parabola));
+  unset->set_z_level(5.0);
+  unset->set_start_point(giPoint2(-1, 1));
+  unset->set_end_point(giPoint2(2, 4));
+  EXPECT_EQ(written(*unset), records({PARABOLA}));
+}
+
+// Spline curves built through their setters: sized once, every value unset until set.
+TEST_F(CurveSetters, ParametricSplineCurves) {
+  using Errors = std::vector<std::string>;
+  auto* curve = new igs112;
+  EXPECT_EQ(checked(*curve), (Errors{"igs112InvalidContinuity(value=-2147483647)",
+                                     "igs112InvalidDerivatives", "igs112NoConstruct"}));
+  EXPECT_FALSE(curve->set_number_of_segments(0));
+  ASSERT_TRUE(curve->set_number_of_segments(2));
+  EXPECT_FALSE(curve->set_number_of_segments(2));
+  EXPECT_TRUE(curve->set_continuity(3));
+  EXPECT_FALSE(curve->set_continuity(4) || curve->set_continuity(-1));
+  EXPECT_EQ(checked(*curve),
+            (Errors{"igs112InvalidContinuity(value=3)", "igs112InvalidCurveSegment(index=0)",
+                    "igs112InvalidCurveSegment(index=1)", "igs112InvalidDerivatives",
+                    "igs112UnsetBreakpoint(index=0)", "igs112UnsetBreakpoint(index=1)",
+                    "igs112UnsetBreakpoint(index=2)"}));
+  EXPECT_EQ(fix(curve->de_number(), igs112InvalidContinuity::type()), 1);
+  EXPECT_EQ(curve->continuity(), 0);
+  double const breakpoints[] = {0, 1, 2}, values[] = {1, 2, 3, 4};
+  EXPECT_FALSE(curve->set_all_breakpoints(2, breakpoints) || curve->set_breakpoint(3, 1.0));
+  ASSERT_TRUE(curve->set_all_breakpoints(3, breakpoints));
+  igsCubicCoefficients c, unset;
+  c.set_coefficients(values);
+  EXPECT_FALSE(curve->set_xyz_coefficients(2, c, c, c) ||
+               curve->set_xyz_coefficients(0, c, unset, c));
+  ASSERT_TRUE(curve->set_xyz_coefficients(0, c, c, c) && curve->set_xyz_coefficients(1, c, c, c));
+  igsCubicDerivatives d, gap;
+  d.set_derivatives(values);
+  EXPECT_FALSE(curve->set_xyz_derivatives(d, gap, d));
+  ASSERT_TRUE(curve->set_xyz_derivatives(d, d, d));
+  curve->set_spline_type(igsSplineLinear);
+  curve->set_dimensionality(igsSplinePlanar);
+  EXPECT_EQ(checked(*curve), Errors{});
+  double t0 = 0, t1 = 0, value = 0;
+  EXPECT_FALSE(curve->segment(2, c, c, c, t0, t1) || curve->x_coefficients(-1, c) ||
+               curve->breakpoint(3, value));
+  ASSERT_TRUE(curve->segment(1, c, unset, c, t0, t1));
+  EXPECT_TRUE(t0 == 1 && t1 == 2 && unset.valid());
+  EXPECT_EQ(written(*curve),
+            records({"112,1,0,2,2,0.,1.,2.,1.,2.,3.,4.,1.,2.,3.,4.,1.,2.,3.,4.,1.,2.,",
+                     "3.,4.,1.,2.,3.,4.,1.,2.,3.,4.,1.,2.,3.,4.,1.,2.,3.,4.,1.,2.,3.,", "4.;"}));
+}
+
+// Offset curves set as a whole: what the way of offsetting leaves out is null or unset, which
+// a check of a uniform offset finds twice, and which goes out as the 0 a file would give.
+TEST_F(CurveSetters, OffsetCurves) {
+  auto* line = new igs110;
+  line->set_start_point(giPoint3(0, 0, 0));
+  line->set_end_point(giPoint3(1, 0, 0));
+  igsObjectPtr basis(line);
+  auto* offset = new igs130;
+  offset->set_uniform_offset(basis, 2.0, 0.0, 1.0, giVector3(0, 0, 1));
+  EXPECT_EQ(checked(*offset),
+            (std::vector<std::string>{"igs130FieldMismatch", "igs130FieldMismatch"}));
+  EXPECT_EQ(written(*offset), records({"130,1,1,0,0,0,2.,0.,0.,0.,0.,0.,1.,0.,1.;"}));
+  offset->set_linear_varying_parametric_offset(basis, 1, 2, 3, 4, 0.0, 1.0, giVector3(0, 0, 1));
+  EXPECT_EQ(offset->function_curve_index(), igs_unset_int);
+  offset->set_function_varying_arc_length_offset(basis, basis, 1, 0.0, 1.0, giVector3(0, 0, 1));
+  EXPECT_EQ(offset->offset_distance_taper_type() * 10 + offset->offset_distance_type(), 13);
+  EXPECT_EQ(checked(*offset), std::vector<std::string>{"igs130FieldMismatch"});
+  offset->set_function_varying_parametric_offset(basis, igsObjectPtr(), 0, 0.0, 1.0,
+                                                 giVector3(0, 3, 4));
+  offset->set_linear_varying_arc_length_offset(basis, 1, 2, 3, 4, 0.0, 1.0, giVector3(0, 3, 4));
+  EXPECT_EQ(checked(*offset),
+            (std::vector<std::string>{"igs130FieldMismatch", "igs130PlaneNormalNotUnitVector"}));
+  EXPECT_EQ(fix(offset->de_number(), igs130PlaneNormalNotUnitVector::type()), 1);
+  EXPECT_EQ(offset->plane_normal(), giVector3(0, 0.6, 0.8));
 }
 
 } // namespace
