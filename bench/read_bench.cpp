@@ -106,7 +106,18 @@ struct Reals {
     if (s.find('.') == std::string::npos && s.find('e') == std::string::npos) s += ".";
     return s;
   }
+  // `count` reals, each behind a comma.
+  std::string fields(int count) {
+    std::string text;
+    for (int i = 0; i < count; ++i) text.append(",").append(next());
+    return text;
+  }
 };
+
+// A pointer field to the DE number, behind its comma.
+std::string pointer_field(int de) {
+  return std::string(",").append(std::to_string(de));
+}
 
 // The file: one Start line, one Global line, then points, lines and arcs in turn, their
 // parameters split over as many P lines of 64 columns as they need.
@@ -448,16 +459,8 @@ BENCHMARK(BM_ReadBsplineCurves)->Unit(benchmark::kMillisecond)->Iterations(3);
 Generated generate_surfaces(std::size_t at_least) {
   RecordText file;
   Reals reals;
-  auto values = [&](int count) {
-    std::string text;
-    for (int i = 0; i < count; ++i) {
-      text += ',';
-      text += reals.next();
-    }
-    return text;
-  };
-  // A pointer field to the DE number.
-  auto to = [](int de) { return std::string(",").append(std::to_string(de)); };
+  auto values = [&](int count) { return reals.fields(count); };
+  auto to = pointer_field;
   while (file.d.size() + file.p.size() < at_least) {
     std::string point = to(file.add(116, 0, values(3) + ",0"));
     std::string axis = to(file.add(123, 0, ",0.,0.,1."));
@@ -494,12 +497,8 @@ BENCHMARK(BM_ReadSurfaces)->Unit(benchmark::kMillisecond)->Iterations(3);
 Generated generate_annotation(std::size_t at_least) {
   RecordText file;
   Reals reals;
-  auto values = [&](int count) {
-    std::string text;
-    for (int i = 0; i < count; ++i) text.append(",").append(reals.next());
-    return text;
-  };
-  auto to = [](int de) { return std::string(",").append(std::to_string(de)); };
+  auto values = [&](int count) { return reals.fields(count); };
+  auto to = pointer_field;
   // One string of a note: its box, font, angles, flags, start point and text.
   auto word = [&](std::string const& text) {
     std::string fields = "," + std::to_string(text.size()) + ",12.5,3.5,1,1.5707963267949,0.,0,0";
@@ -561,8 +560,11 @@ Generated generate_trimmed_surfaces(std::size_t at_least) {
     append_knots(fields, points);
     for (int i = 0; i < points; ++i) fields.append(",1.");
     for (int i = 0; i < points; ++i)
-      fields.append(",").append(reals.next()).append(",").append(reals.next()).append(
-          planar ? ",0." : "," + reals.next());
+      fields.append(",")
+          .append(reals.next())
+          .append(",")
+          .append(reals.next())
+          .append(planar ? ",0." : "," + reals.next());
     fields.append(",0.,").append(std::to_string(points - 3)).append(".,0.,0.,1.");
     return file.add(126, 0, fields);
   };
@@ -582,10 +584,9 @@ Generated generate_trimmed_surfaces(std::size_t at_least) {
       int de = curve(4 + side, true);
       if (!side) first = de;
     }
-    int composite = file.add(102, 0, ",4," + std::to_string(first) + "," +
-                                         std::to_string(first + 2) + "," +
-                                         std::to_string(first + 4) + "," +
-                                         std::to_string(first + 6));
+    int composite = file.add(102, 0,
+                             ",4," + std::to_string(first) + "," + std::to_string(first + 2) + "," +
+                                 std::to_string(first + 4) + "," + std::to_string(first + 6));
     int model = curve(8, false);
     int on_surface = file.add(142, 0,
                               ",0," + std::to_string(surface) + "," + std::to_string(composite) +
