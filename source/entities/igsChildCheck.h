@@ -127,7 +127,6 @@ template <class Set> int igs_replace_by_curve(igsObjectPtr child, Set const& set
 template <class Owner, class Set>
 int igs_replace_child_by_curve(int key, igsObjectPtr const& (Owner::*get)() const, Set set) {
   Owner* owner = igs_error_entity<Owner>(key);
-  return owner && igs_replace_by_curve((owner->*get)(), [&](igsObjectPtr const& curve) {
-           (owner->*set)(curve);
-         });
+  return owner && igs_replace_by_curve((owner->*get)(),
+                                       [&](igsObjectPtr const& curve) { (owner->*set)(curve); });
 }

@@ -380,9 +380,9 @@ TEST_F(ReadTest, AnEntityWritesItsTypeThenItsParametersAndDropsPointersBehindThe
   } const tails[] = {{"1,11,1,13,99;", 99}, {"2,11,13,1,15;", 110}, {"1000000000,7;", 110}};
   for (Tail const& tail : tails) {
     SCOPED_TRACE(tail.fields);
-    std::istringstream text(igs_input_test::join({record('P', 1, std::string("116,1.,2.,3.,0,") +
-                                                                    tail.fields, 1),
-                                                  record('P', 2, "110,4.;", 3)}));
+    std::istringstream text(
+        igs_input_test::join({record('P', 1, std::string("116,1.,2.,3.,0,") + tail.fields, 1),
+                              record('P', 2, "110,4.;", 3)}));
     igsInStream in(text);
     in.reset();
     double skipped = 0.0;

@@ -1,6 +1,7 @@
 // Writing whole files made by our own code: the renumbering after deletions, the temporary
 // file whatever happens to the destination, the parametric precision and a back pointer beyond
-// its columns. Every written file passes the structural check. The records of each entity class and their round trip are the family tests'.
+// its columns. Every written file passes the structural check. The records of each entity class and
+// their round trip are the family tests'.
 #include "core/objectTestSupport.h"
 #include "core/writtenFileCheck.h"
 

@@ -269,8 +269,7 @@ void igs128::check_homogenous_control_points() const {
 
 // Here, unlike in the setters, the limits of each direction must differ.
 void igs128::check_parametric_limits() const {
-  if (igs_unset(m_start[U]) || igs_unset(m_end[U]) || igs_unset(m_start[V]) ||
-      igs_unset(m_end[V]))
+  if (igs_unset(m_start[U]) || igs_unset(m_end[U]) || igs_unset(m_start[V]) || igs_unset(m_end[V]))
     raise_error<igs128UnsetTrimmingParams>();
   if (m_start[U] >= m_end[U]) raise_error<igs128TrimParamsUOutOfSequence>(m_start[U], m_end[U]);
   if (m_start[V] >= m_end[V]) raise_error<igs128TrimParamsVOutOfSequence>(m_start[V], m_end[V]);

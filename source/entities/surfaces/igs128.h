@@ -48,8 +48,12 @@ class igs128 : public igsSplineEntity<igsParameterizedSurface> {
     end = m_end[d];
   }
   // Store both and give 1 when end >= start; else 0 and nothing changes.
-  int set_parametric_limits_u(double start, double end) { return set_parametric_limits(U, start, end); }
-  int set_parametric_limits_v(double start, double end) { return set_parametric_limits(V, start, end); }
+  int set_parametric_limits_u(double start, double end) {
+    return set_parametric_limits(U, start, end);
+  }
+  int set_parametric_limits_v(double start, double end) {
+    return set_parametric_limits(V, start, end);
+  }
   int set_parametric_limits(Direction d, double start, double end);
 
   // The flags as the file holds them, valid or not. The rational flag keeps the file's sense:

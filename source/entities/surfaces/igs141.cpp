@@ -98,8 +98,8 @@ void igs141::write_pd_data(igsOutStream& out) {
 }
 
 static char const* const representation_words[] = {"(ModelSpaceCurvesOnly)", "(Both)"};
-static char const* const preferred_words[] = {"(Unspecified)", "(ModelSpace)",
-                                              "(ParameterSpace)", "(Both)"};
+static char const* const preferred_words[] = {"(Unspecified)", "(ModelSpace)", "(ParameterSpace)",
+                                              "(Both)"};
 
 void igs141::print_pd_data(utOstream& out) const {
   igs_print_enumerated(out, "BoundedSurfaceRep = ", m_representation, representation_words);
@@ -117,8 +117,7 @@ void igs141::print_pd_data(utOstream& out) const {
 }
 
 void igs141::check_pd() const {
-  if (!igs_flag_valid(m_representation))
-    raise_error<igs141InvalidBoundedSurfRep>(m_representation);
+  if (!igs_flag_valid(m_representation)) raise_error<igs141InvalidBoundedSurfRep>(m_representation);
   if (!igs_enumerated_valid(m_preferred, 4)) raise_error<igs141InvalidPreferrenceFlag>(m_preferred);
   check_basis_surface<igs141NullSurfacePtr, igs141InvalidSurfaceType, igs141InvalidSurfaceData>();
   if (m_curves.size() <= 0) raise_error<igs141BadNumModelSpaceCurves>(m_curves.size());
@@ -196,7 +195,8 @@ int igs141InvalidReversalFlag::fix() {
 
 int igs141InvalidModelSpaceCurveType::fix() {
   igsModelSpaceCurve* record = named_record(key(), curve());
-  return record && igs_replace_by_curve(record->model_space_curve(), [record](igsObjectPtr const& c) {
+  return record &&
+         igs_replace_by_curve(record->model_space_curve(), [record](igsObjectPtr const& c) {
            record->set_model_space_curve(c);
          });
 }

@@ -50,8 +50,8 @@ void igs144::check_pd() const {
   check_basis_surface<igs144NullSurfacePtr, igs144InvalidSurfaceType, igs144InvalidSurfaceData>();
   if (m_outer) {
     // Not null here, so the null error handed over never comes.
-    check_reference<igs144NullSurfacePtr, igs144InvalidOuterBoundType,
-                    igs144InvalidOuterBoundData>(m_outer, igs_exactly<igs142>);
+    check_reference<igs144NullSurfacePtr, igs144InvalidOuterBoundType, igs144InvalidOuterBoundData>(
+        m_outer, igs_exactly<igs142>);
     if (igs_off_surface<igs142>(m_outer, m_surface)) raise_error<igs144OuterBoundSurfaceMismatch>();
   }
   for (int i = 0; i < m_inner.size(); ++i) {
@@ -68,7 +68,8 @@ void igs144::check_pd() const {
 IGS_CHILD_REPAIR(igs144InvalidSurfaceData, igs144, igs_child_at<&igs144::basis_surface>)
 IGS_CHILD_REPAIR(igs144InvalidOuterBoundData, igs144, igs_child_at<&igs144::outer_boundary>)
 
-static igsObject const* named_boundary(igs144 const& surface, igs144InvalidInnerBoundData const& e) {
+static igsObject const* named_boundary(igs144 const& surface,
+                                       igs144InvalidInnerBoundData const& e) {
   igsObjectPtr boundary;
   return surface.inner_boundary(e.index(), boundary) ? igs_target(boundary) : nullptr;
 }
