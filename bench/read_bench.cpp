@@ -671,8 +671,8 @@ Generated generate_attributes(std::size_t at_least) {
     if (unit % 50 == 0) {
       pattern = file.add(304, 2, ",4,2.,1.,0.5,1.,1H5", 0, 1);
       int font = file.add(310, 0, ",1001,6HSIMPLX,1,8,2,65,9,0,2,1,4,8,0,0,0,66,9,0,1,0,0,8");
-      file.add(312, 0, ",12.5,3.5," + std::to_string(-font) + ",1.5707963267949,0.,0,0" +
-                           reals.fields(3));
+      file.add(312, 0,
+               ",12.5,3.5," + std::to_string(-font) + ",1.5707963267949,0.,0,0" + reals.fields(3));
       file.add(416, 1, ",15Hpart-" + std::to_string(100000 + unit % 900000) + ".igs");
     }
     int colour =
