@@ -39,34 +39,6 @@ KVU_DEFINE_TYPE(testRound, testShape)
 
 namespace {
 
-// The rows of the registration table, planned ones included.
-struct Row {
-  int type;
-  int min_form;
-  int max_form;
-  std::string name;
-  bool active;
-};
-
-std::vector<Row> const& table() {
-  static std::vector<Row> const rows = {
-#define IGS_ENTITY(type, min_form, max_form, Class) {type, min_form, max_form, #Class, true},
-#define IGS_ENTITY_PLANNED(type, min_form, max_form, Class)                                        \
-  {type, min_form, max_form, #Class, false},
-#include "entities/igsEntityTable.def"
-  };
-  return rows;
-}
-
-// What the table says the factory makes for a type and form: the first active row that holds
-// the form, else igsUnknown.
-std::string expected_class(int type, int form) {
-  for (Row const& row : table())
-    if (row.type == type && row.min_form <= form && form <= row.max_form)
-      return row.active ? row.name : "igsUnknown";
-  return "igsUnknown";
-}
-
 // Makes an object through the factory; its class name, or "null" if none came.
 struct Made {
   igsObject* object;
@@ -80,34 +52,6 @@ class FactoryTest : public ::testing::Test {
     return {igsFactory::make_one(static_cast<igsEntityType>(type), form)};
   }
 };
-
-TEST_F(FactoryTest, EveryRegisteredRangeMakesItsClassWithItsTypeInTheCurrentFile) {
-  for (Row const& row : table()) {
-    for (int form : {row.min_form, row.max_form}) {
-      SCOPED_TRACE(row.name + " form " + std::to_string(form));
-      Made made = make(row.type, form);
-      ASSERT_NE(made.object, nullptr);
-      EXPECT_EQ(made.name(), row.active ? row.name : "igsUnknown");
-      EXPECT_EQ(&made.object->file(), file.get());
-      if (!row.active) continue;
-      // The class's constructor stores its own type and a form of its range.
-      igsDirectoryEntry const& de = made.object->directory_entry();
-      EXPECT_EQ(de.entity_type(), row.type);
-      // But an external reference: built in memory it is of form 0, naming a file and an
-      // entity, while the factory makes it only for form 1, naming a whole file.
-      if (row.type > 0 && row.name != "igs416") {
-        EXPECT_GE(de.form_number(), row.min_form);
-        EXPECT_LE(de.form_number(), row.max_form);
-      }
-    }
-    // Just outside the range (which for type 0 and -1 is the whole of int but its lowest
-    // value), no other row of the type may claim the form.
-    if (row.max_form == INT_MAX) continue;
-    for (int form : {row.min_form - 1, row.max_form + 1})
-      EXPECT_EQ(make(row.type, form).name(), expected_class(row.type, form))
-          << row.name << " form " << form;
-  }
-}
 
 TEST_F(FactoryTest, RegistrationsMatchInTheirOrderAndLeaveWhenDestroyed) {
   igsEntityType const type = static_cast<igsEntityType>(9100);

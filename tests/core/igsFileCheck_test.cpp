@@ -109,24 +109,6 @@ TEST_F(FileCheckTest, CheckRaisesObjectErrorsAfreshWhileStructureErrorsStay) {
   EXPECT_EQ(shared->num_logged_errors(), 1);
 }
 
-TEST_F(FileCheckTest, CheckAndCleanWorkOnTheirOwnFileAndLeaveTheCurrentFileAsItWas) {
-  auto* bad = new testNode(-1);
-  auto other = std::make_unique<testFile>();
-  auto* elsewhere = new testNode(-2);
-  ASSERT_EQ(&igsObjectSystem::file(), other.get());
-  file->check();
-  EXPECT_EQ(&igsObjectSystem::file(), other.get());
-  EXPECT_EQ(igsObjectSystem::log().get_section_log(igsObjectLog).num_errors(), 0);
-  EXPECT_EQ(elsewhere->checks(), 0);
-  file->clean(1);
-  EXPECT_EQ(&igsObjectSystem::file(), other.get());
-  EXPECT_EQ(file->num_entities(), 0);
-  EXPECT_EQ(other->num_entities(), 1);
-  igsObjectSystem::set_current_file(*file);
-  EXPECT_EQ(object_log().num_errors(), 1); // the error of the deleted entity stays
-  (void)bad;
-}
-
 // A parent with a bad and a good child, and an entity apart whose structure error is settled by
 // its repair.
 class CleanTest : public FileCheckTest {
@@ -164,26 +146,6 @@ TEST_F(CleanTest, CleanOneLeavesOnlyTheEntitiesWithoutLoggedErrors) {
   EXPECT_EQ(target_of(held_good), good);
   // The errors of the deleted entities stay under their DE numbers.
   EXPECT_EQ(object_log().num_errors(), 2);
-}
-
-TEST_F(ViewNumberTest, EachFaultProposesTheNextNumberAboveAllInUse) {
-  std::vector<igs410_0*> v = views({3, igs_unset_int, 3, -5, 0, 7, -1});
-  auto* derived = new testDerivedView; // not of the view class itself: passed by
-  derived->set_view_number(3);
-  file->check();
-  EXPECT_EQ(object_errors(),
-            (std::vector<std::string>{"igs410_0NoViewNumberDefined" + at(v[1]) + "(8)",
-                                      "igs410_0RepeatedView" + at(v[2]) + "(9)",
-                                      "igs410_0InvalidViewNumber" + at(v[3]) + "(10)",
-                                      "igs410_0InvalidViewNumber" + at(v[6]) + "(11)"}));
-  EXPECT_EQ(v[2]->num_logged_errors(), 1);
-  EXPECT_EQ(derived->num_logged_errors(), 0);
-
-  file->clean(0);
-  EXPECT_EQ(numbers(v), (std::vector<int>{3, 8, 9, 10, 0, 7, 11}));
-  EXPECT_EQ(derived->view_number(), 3);
-  file->check();
-  EXPECT_EQ(object_log().num_errors(), 0);
 }
 
 TEST_F(ViewNumberTest, ProposalsPastTheLargestIntTakeTheLowestFreeNumbers) {

@@ -116,41 +116,6 @@ class WriteTest : public FileTest {
   kvnabsStringOutput messages;
 };
 
-TEST_F(WriteTest, DeletedEntitiesLeaveNoGapAndReferencesFollowTheirTargets) {
-  igs116* first = point(giPoint3(0.0, 0.0, 0.0));                        // DE 1, stays 1
-  igs110* gone = line(giPoint3(0.0, 0.0, 0.0), giPoint3(0.0, 0.0, 0.0)); // DE 3, deleted
-  igs100* circle = arc(1.0, giPoint2(0.0, 0.0), giPoint2(2.0, 0.0), giPoint2(2.0, 0.0)); // 5 -> 3
-  igs116* target = point(giPoint3(1.0, 1.0, 1.0));                           // DE 7, deleted
-  igs110* labelled = line(giPoint3(0.0, 0.0, 0.0), giPoint3(1.0, 0.0, 0.0)); // 9 -> 5
-  igs116* last = point(giPoint3(2.0, 2.0, 2.0));                             // DE 11 -> 7
-  labelled->directory_entry().set_label_display(igsObjectPtr(last));
-  last->directory_entry().set_view(igsObjectPtr(target));
-  circle->directory_entry().set_label_display(igsObjectPtr(first));
-  first->directory_entry().set_view(igsObjectPtr(labelled));
-  // An error logged now keeps the DE number the line has now.
-  file->check();
-  ASSERT_EQ(gone->num_logged_errors(), 1);
-  delete gone;
-  delete target;
-  ASSERT_EQ(object_log().num_errors(3), 1);
-
-  std::string text = written();
-  EXPECT_EQ(std::vector<int>({first->de_number(), circle->de_number(), labelled->de_number(),
-                              last->de_number()}),
-            std::vector<int>({1, 3, 5, 7}));
-  EXPECT_EQ(section_lines(text, 'D').size(), 8u);
-  // View in columns 41-48 of the first line, label display in 57-64.
-  EXPECT_EQ(de_field(text, 1, 1, 41), 5);
-  EXPECT_EQ(de_field(text, 3, 1, 57), 1);
-  EXPECT_EQ(de_field(text, 5, 1, 57), 7);
-  EXPECT_EQ(de_field(text, 7, 1, 41), 0); // its view was deleted
-  EXPECT_EQ(record(text, 3), "100,1.,0.,0.,2.,0.,2.,0.;");
-  EXPECT_EQ(record(text, 7), "116,2.,2.,2.,0;");
-  // The error still names DE 3, which is now the arc's number.
-  EXPECT_EQ(object_log().num_errors(3), 1);
-  EXPECT_EQ(circle->num_logged_errors(), 1);
-}
-
 // A node whose record moves the back pointer past its seven columns, as the record after the
 // five millionth entity would: so many entities do not fit into a unit test.
 class testFarNode : public testNode {
@@ -215,24 +180,6 @@ TEST_F(WriteTest, NoTemporaryFileStaysWhateverHappensToTheDestination) {
   EXPECT_EQ(failed.str(), "");
   // The file is unharmed: a good destination receives it whole again.
   EXPECT_EQ(written(), full);
-}
-
-TEST_F(WriteTest, WithoutATemporaryFileNothingButStartAndGlobalIsWritten) {
-  point(giPoint3(1.0, 2.0, 3.0));
-  fs::path const regular = write_dir / "a file";
-  std::ofstream(regular) << "not a folder";
-  for (fs::path const& dir : {write_dir / "missing", regular}) {
-    file->set_write_dir(utString(dir.string()));
-    std::ostringstream text;
-    std::ostringstream notes;
-    utOstream out(notes);
-    EXPECT_EQ(file->write(text, out), 0);
-    EXPECT_EQ(section_lines(text.str(), 'S').size(), 1u);
-    EXPECT_EQ(section_lines(text.str(), 'G').size(), 3u);
-    EXPECT_EQ(text.str().size(), 4 * 81u);
-  }
-  EXPECT_FALSE(fs::exists(write_dir / "missing"));
-  EXPECT_EQ(std::distance(fs::directory_iterator(write_dir), fs::directory_iterator()), 1);
 }
 
 TEST_F(WriteTest, ParametricEntitiesAreWrittenWithTheParametricPrecision) {

@@ -109,43 +109,6 @@ TEST_F(FileTest, ForwardReferencesThatNeverGetAnEntityStayNullForGood) {
   EXPECT_TRUE(igsObjectPtr(9)); // a new reference binds to the entity now there
 }
 
-TEST_F(FileTest, IteratorsStopAtTopLevelEntitiesOrAtOneExactClass) {
-  auto* root = new testNode;
-  auto* special = new testSpecialNode;
-  auto* child = new testNode;
-  auto* lone_special = new testSpecialNode;
-  root->add_child(child);
-  root->add_child(special);
-  (void)lone_special;
-
-  EXPECT_EQ(de_numbers(*file), (std::vector<int>{1, 3, 5, 7}));
-  std::vector<int> top;
-  for (igsFileIT it(file.get(), 1); ++it;) top.push_back(it()->de_number());
-  EXPECT_EQ(top, (std::vector<int>{1, 7}));
-
-  std::vector<int> exact_nodes, exact_special;
-  for (igsFileTypeIT it(file.get(), testNode::type()); ++it;)
-    exact_nodes.push_back(it()->de_number());
-  for (igsFileTypeIT it(file.get(), testSpecialNode::type()); ++it;)
-    exact_special.push_back(it()->de_number());
-  EXPECT_EQ(exact_nodes, (std::vector<int>{1, 5}));
-  EXPECT_EQ(exact_special, (std::vector<int>{3, 7}));
-  EXPECT_TRUE(special->typeof(testNode::type()));
-  EXPECT_FALSE(special->isa(testNode::type()));
-  EXPECT_TRUE(special->typeof(igsObject::type()));
-  EXPECT_STREQ(special->objtype().name(), "testSpecialNode");
-
-  // An iterator ends at -1 with a null current entity, and a walk survives deletions.
-  igsFileIT it(file.get());
-  EXPECT_EQ(it(), nullptr);
-  ASSERT_TRUE(++it);
-  int seen = 1;
-  delete child;
-  while (++it) ++seen;
-  EXPECT_EQ(seen, 3);
-  EXPECT_EQ(it(), nullptr);
-}
-
 TEST_F(FileTest, PrintShowsEachEntityOnceAndEndsOnCycles) {
   file->set_pathname("part.igs");
   auto* a = new testNode(1);
@@ -173,43 +136,6 @@ TEST_F(FileTest, PrintShowsEachEntityOnceAndEndsOnCycles) {
   EXPECT_EQ(count("TerminateSection = {"), 1) << text;
   // A print of its own starts a new walk.
   EXPECT_NE(printed(*shared).find("  Value = 3\n}\n"), std::string::npos);
-}
-
-TEST_F(FileTest, CheckVisitsEachEntityOnceAndEndsOnCycles) {
-  auto* a = new testNode(1);
-  auto* b = new testNode(-1);
-  auto* good = new testNode(2);
-  a->add_child(b);
-  b->add_child(a);
-  b->add_child(good);
-  EXPECT_EQ(a->check(), 0);
-  EXPECT_EQ(a->checks(), 1);
-  EXPECT_EQ(b->checks(), 1);
-  EXPECT_EQ(good->checks(), 1);
-  // b: its negative value; a: its bad child. b saw a still in progress (0), so it also
-  // reported a as a bad child.
-  EXPECT_EQ(b->num_logged_errors(), 2);
-  EXPECT_EQ(a->num_logged_errors(), 1);
-  EXPECT_EQ(good->num_logged_errors(), 0);
-  EXPECT_EQ(good->check(), 1);
-
-  // Inside one walk an entity is checked once, whoever asks.
-  igsObjectSystem::reentrant_start();
-  EXPECT_EQ(a->check(), 0);
-  EXPECT_EQ(b->check(), 0);
-  EXPECT_EQ(b->check(), 0);
-  igsObjectSystem::reentrant_end();
-  EXPECT_EQ(a->checks(), 2);
-  EXPECT_EQ(b->checks(), 2);
-
-  // A new check drops the old object errors and raises them afresh; structure errors stay.
-  b->set_value(5);
-  b->raise_structure_error();
-  EXPECT_EQ(b->num_logged_errors(), 3);
-  EXPECT_EQ(b->check(), 0); // a (visited from b) is bad: 1 object error, 1 structure error
-  EXPECT_EQ(b->num_logged_errors(), 2);
-  EXPECT_EQ(object_log().num_errors(b->de_number()), 1);
-  EXPECT_EQ(structure_log().num_errors(b->de_number()), 1);
 }
 
 TEST_F(FileTest, DirectoryEntrySettersRefuseWhatTheyCannotHold) {

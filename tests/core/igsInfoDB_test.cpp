@@ -16,46 +16,6 @@ struct NamedNumber {
 
 } // namespace
 
-// The tables against each other and against the reader's needs, rather than against a copy:
-// every known type's default form is a form of that type (the reader puts it in place of a bad
-// form), and the forms at the ends of each range the entity table registers a class for are forms
-// of the table.
-TEST(igsInfoDB, DefaultFormsAndRegisteredFormsExist) {
-  int known = 0;
-  for (int type = -1100; type <= 1100; ++type) {
-    EXPECT_EQ(igsInfoDB::entity_exists(type), igsInfoDB::entity_info(type) != nullptr);
-    EXPECT_EQ(igsInfoDB::entity_name(type).is_null(), !igsInfoDB::entity_exists(type)) << type;
-    known += igsInfoDB::entity_exists(type);
-    int form = -5, found = -5;
-    igsInfoDB::default_form_number(type, form, found);
-    if (found) {
-      EXPECT_TRUE(igsInfoDB::form_exists(type, form)) << type;
-    } else {
-      EXPECT_EQ(form, 0) << type;
-    }
-  }
-  EXPECT_EQ(known, 90);
-  struct Registration {
-    int type, min_form, max_form;
-  } const registrations[] = {
-#define IGS_ENTITY(type, min_form, max_form, Class) {type, min_form, max_form},
-#define IGS_ENTITY_PLANNED(type, min_form, max_form, Class) {type, min_form, max_form},
-#include "entities/igsEntityTable.def"
-  };
-  for (Registration const& r : registrations) {
-    EXPECT_TRUE(igsInfoDB::entity_exists(r.type)) << r.type;
-    if (r.type <= 0) continue; // Null and Unknown take any form
-    // A range may span forms the table lacks (212 holds 0 to 8 and 100 to 105); its ends exist.
-    EXPECT_TRUE(igsInfoDB::form_exists(r.type, r.min_form)) << r.type << "." << r.min_form;
-    EXPECT_TRUE(igsInfoDB::form_exists(r.type, r.max_form)) << r.type << "." << r.max_form;
-  }
-  for (int type : {INT_MIN, INT_MIN + 1, INT_MAX - 1, INT_MAX}) {
-    EXPECT_FALSE(igsInfoDB::entity_exists(type));
-    EXPECT_FALSE(igsInfoDB::form_exists(type, 0));
-    EXPECT_TRUE(igsInfoDB::form_name(type, 0).is_null());
-  }
-}
-
 TEST(igsInfoDB, LookupsThatReadersAndPrintersRelyOn) {
   EXPECT_FALSE(igsInfoDB::form_exists(110, 1));
   EXPECT_TRUE(igsInfoDB::form_exists(108, -1));

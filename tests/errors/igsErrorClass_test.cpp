@@ -105,47 +105,4 @@ TEST_F(ErrorClassTest, ARowGivesConstructorAccessorsVisitAndTypeRecord) {
   EXPECT_EQ(member->obj(), 9);
 }
 
-TEST_F(ErrorClassTest, HandWrittenObjAndFixReachTheirEntitiesByKey) {
-  kvnabsStringOutput sink;
-  file->set_message_stream(&sink);
-  auto* parent = new testNode;
-  auto* good = new testNode;
-  auto* bad = new testNode(-1);
-  parent->add_child(good);
-  parent->add_child(bad);
-  parent->add_child(igsObjectPtr());
-
-  int parent_de = parent->de_number();
-  auto raise = [&](int index) {
-    auto* e = new testInvalidChildData(index);
-    e->set_key(parent_de);
-    e->set_message_stream(file->message_stream());
-    return e;
-  };
-  obj_lookups = 0;
-  testInvalidChildData* on_good = raise(0);
-  testInvalidChildData* on_bad = raise(1);
-  testInvalidChildData* on_null = raise(2);
-  EXPECT_EQ(on_good->obj(), good->de_number());
-  EXPECT_EQ(on_good->obj(), good->de_number());
-  EXPECT_EQ(obj_lookups, 1); // cached
-  EXPECT_EQ(on_null->obj(), 0);
-  EXPECT_EQ(on_null->obj(), 0);
-  EXPECT_EQ(obj_lookups, 3); // not cached while there is nothing to name
-  EXPECT_EQ(on_bad->obj(), bad->de_number());
-
-  bad->check();
-  EXPECT_EQ(on_good->fix(), 1);
-  EXPECT_EQ(on_bad->fix(), 1);
-  EXPECT_EQ(sink.text(), "Warning : child 5 removed from ig1\n");
-  EXPECT_FALSE(parent->child(1));
-  EXPECT_TRUE(parent->child(0));
-
-  // Once the parent has gone the key resolves to nothing, and the repair says so with 0.
-  delete parent;
-  EXPECT_EQ(on_bad->fix(), 0);
-  EXPECT_EQ(on_bad->obj(), bad->de_number()); // cached before
-  EXPECT_EQ(raise(0)->obj(), 0);
-}
-
 } // namespace

@@ -52,27 +52,6 @@ TEST_F(LogTest, ErrorsAreFiledUnderTheirKeyAtTheNextLookAtTheLog) {
   EXPECT_EQ(structure_log().num_errors(21), 1);
 }
 
-TEST_F(LogTest, ClearByKeyLeavesTheOtherErrorsWhereTheyAre) {
-  auto* a = new testNode(-1);
-  auto* b = new testNode(-2);
-  auto* c = new testNode(-3);
-  std::vector<igsError*> made = {raise(*a), raise(*b), raise(*a), raise(*c), raise(*a)};
-  EXPECT_EQ(a->num_logged_errors(), 3);
-  object_log().clear(a->de_number());
-  EXPECT_EQ(a->num_logged_errors(), 0);
-  EXPECT_EQ(object_log().num_errors(), 2);
-  EXPECT_EQ(made[1]->log_position(), 1);
-  EXPECT_EQ(made[3]->log_position(), 3);
-  EXPECT_EQ(walk(object_log()), (std::vector<igsError*>{made[1], made[3]}));
-  // Freed slots are reused, the last freed first.
-  EXPECT_EQ(filed_position(raise(*c)), 4);
-  EXPECT_EQ(filed_position(raise(*c)), 2);
-  EXPECT_EQ(c->num_logged_errors(), 3);
-  // A key with no errors clears nothing.
-  object_log().clear(12345);
-  EXPECT_EQ(object_log().num_errors(), 4);
-}
-
 TEST_F(LogTest, MarkingAsFixedTakesTheErrorOutOfTheCountsAndFreesItsSlot) {
   auto* node = new testNode(-1);
   igsError* first = raise(*node);

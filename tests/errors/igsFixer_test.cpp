@@ -183,35 +183,6 @@ TEST_F(FixerTest, AnUnrepairableChildStaysActiveAndItsParentDropsIt) {
   EXPECT_LT(at(bad->de_number()), at(drops->de_number()));
 }
 
-TEST_F(FixerTest, AnEntityReachedDirectlyAndThroughTwoIntermediatesHasDistanceFour) {
-  // near -> shared, and far -> first -> second -> shared.
-  fixerNode* shared = node();
-  shared->raise_own(1);
-  shared->raise_own(1);
-  fixerNode* near = parent_of(shared);
-  fixerNode* second = parent_of(shared);
-  fixerNode* first = parent_of(second);
-  fixerNode* far = parent_of(first);
-
-  fixer.fix(log(), 1);
-  EXPECT_EQ(distance(fixer, shared), 4);
-  EXPECT_EQ(distance(fixer, second), 3);
-  EXPECT_EQ(distance(fixer, first), 2);
-  EXPECT_EQ(distance(fixer, near), 1);
-  EXPECT_EQ(distance(fixer, far), 1);
-  EXPECT_TRUE(fixer.find_node(shared->de_number())->is_used());
-
-  // The shared entity's two errors run first, once each however many paths lead to it; then
-  // the rest by distance, the two roots in either order.
-  int s = shared->de_number();
-  std::vector<int> const& calls = fix_calls();
-  ASSERT_EQ(calls.size(), 6u);
-  EXPECT_EQ(std::vector<int>(calls.begin(), calls.begin() + 4),
-            (std::vector<int>{s, s, second->de_number(), first->de_number()}));
-  EXPECT_EQ(sorted({calls[4], calls[5]}), sorted({near->de_number(), far->de_number()}));
-  EXPECT_EQ(object_log().num_errors(), 0);
-}
-
 TEST_F(FixerTest, WithFlagZeroAFailedRepairEndsOnlyItsEntitysErrors) {
   fixerNode* stuck = node();
   fixerNode* other = node();
@@ -273,24 +244,6 @@ TEST_F(FixerTest, ACycleReachedFromARootIsCutWhereItClosesAndRun) {
   EXPECT_EQ(distance(fixer, b), 3);
   EXPECT_EQ(fix_calls(), (std::vector<int>{b->de_number(), a->de_number(), root->de_number()}));
   EXPECT_EQ(object_log().num_errors(), 0);
-}
-
-TEST_F(FixerTest, ACycleWithoutARootIsLeftUnrun) {
-  fixerNode* a = node();
-  fixerNode* b = node();
-  a->add_child(b);
-  a->raise_bad_child(0);
-  b->add_child(a);
-  b->raise_bad_child(0);
-  fixerNode* lone = node();
-  lone->raise_own(1);
-  fixer.fix(log(), 1);
-  EXPECT_EQ(distance(fixer, a), 0);
-  EXPECT_EQ(distance(fixer, b), 0);
-  EXPECT_EQ(fix_calls(), std::vector<int>{lone->de_number()});
-  EXPECT_EQ(a->num_logged_errors(), 1);
-  EXPECT_EQ(b->num_logged_errors(), 1);
-  EXPECT_EQ(target(a->child(0)), b);
 }
 
 TEST_F(FixerTest, ANodeOfDENumberZeroStandsInForAChildThatHasGone) {

@@ -152,51 +152,6 @@ TEST(igsInBufferChecker, ReportsEveryLine) {
   }
 }
 
-TEST(igsInBufferChecker, StopsAndResets) {
-  std::istringstream in(join(file));
-  igsInStream stream(in);
-  igsFileSection section;
-  int line = 0;
-  int column = -1;
-  EXPECT_FALSE(stream.frozen()); // the first Start line continues the initial state
-  stream.skip_line();
-  stream.skip_line(); // the G line
-  stream.position(section, line, column);
-  EXPECT_EQ(section, igsSectionGlobal);
-  EXPECT_EQ(column, 0);
-  EXPECT_TRUE(stream.frozen());
-  EXPECT_EQ(*stream, '\0');
-  stream.skip_line(); // a stop stays a stop on the next line
-  EXPECT_TRUE(stream.frozen());
-  EXPECT_TRUE(stream.reset());
-  EXPECT_EQ(*stream, ' '); // the D line is read from column 1
-  while (!stream.fatal_error()) {
-    stream.skip_line();
-    stream.reset();
-  }
-  int counts[] = {2, 1, 2, 1, 1, 0};
-  for (int s = 0; s <= igsSectionNone; ++s)
-    EXPECT_EQ(stream.num_lines(static_cast<igsFileSection>(s)), counts[s]);
-  EXPECT_FALSE(stream.reset());
-  stream.skip_line();
-  EXPECT_TRUE(stream.frozen());
-
-  // A number that stays negative fails the line without a code of its own. The line's own
-  // code stands once the stop has ended, for the reader of that line.
-  std::istringstream in2(join({s1, with_sequence(s2, " -99999")}));
-  igsInStream negative(in2);
-  negative.skip_line();
-  EXPECT_TRUE(negative.frozen());
-  EXPECT_EQ(describe(negative.errors()), Lines{});
-  EXPECT_TRUE(negative.reset());
-  EXPECT_EQ(describe(negative.errors()), Lines{"igsIOStartLineSequence@S2:0"});
-  // Read without collecting in between, a code stands once.
-  std::istringstream in3(join({s1, s2, s1, s2}));
-  igsInStream restart(in3);
-  for (int i = 0; i < 3; ++i) restart.skip_line();
-  EXPECT_EQ(describe(restart.errors()), Lines{"igsIOStartLineSequence@S4:0"});
-}
-
 TEST(igsInBufferChecker, BackPointersOfWideLines) {
   // The sign of a negative back pointer stays in the data; the line grows wider.
   std::istringstream in(join({s1, with_backpointer(record('P', 1, "1;"), " -32767")}));

@@ -98,30 +98,6 @@ TEST(igsInBufferFiller, RepairsLinesIntoRecords) {
   }
 }
 
-TEST(igsInBufferFiller, EndOfInputAndFailedStreams) {
-  std::istringstream in(s1 + "\n");
-  LineHolder holder;
-  igsInBufferFiller filler(in);
-  EXPECT_TRUE(filler.get(holder));
-  EXPECT_FALSE(filler.get(holder));
-  EXPECT_EQ(holder.buffer().size(), 0);
-  EXPECT_FALSE(filler.reset());
-  igsIOErrorcoDynArr first, second;
-  filler.collect_errors(first);
-  filler.collect_errors(second); // a fatal filler keeps its list
-  EXPECT_EQ(codes_of(second), end_of_input);
-  // The host's stream is left as peek and get would leave it.
-  EXPECT_TRUE(in.eof() && in.fail() && !in.bad());
-
-  std::istringstream broken(s1 + "\n");
-  broken.setstate(std::ios::badbit);
-  EXPECT_EQ(fill(broken).end_codes, (Codes{igsIOEndOfFile, igsIOStreamBad, igsIOStreamFailed}));
-  // A stream that asked for exceptions gets none from the library.
-  std::istringstream strict(s1 + "\n");
-  strict.exceptions(std::ios::eofbit | std::ios::failbit);
-  EXPECT_EQ(fill(strict).end_codes, end_of_input);
-}
-
 // Hands its text out in chunks, so that records straddle the ends of the get area; chunk 0
 // keeps no get area at all, and every byte comes through underflow and uflow.
 class ChunkBuf : public std::streambuf {

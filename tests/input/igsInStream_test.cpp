@@ -152,40 +152,6 @@ TEST(igsInStream, ReadsDelimitedFields) {
   }
 }
 
-TEST(igsInStream, AStoppedStreamGivesDefaultsUntilReset) {
-  Reader r({record('P', 1, "1,2;9,", 1), record('P', 2, blanks(60) + "123;", 1),
-            record('P', 3, "7,8;", 1), record('P', 4, "4;", 5)});
-  EXPECT_EQ(r.integer(), 1);
-  EXPECT_EQ(r.integer(), 2);
-  EXPECT_TRUE(r.stream.frozen());
-  EXPECT_EQ(r.column(), 4);
-  r.codes();
-  EXPECT_EQ(r.holerith(), "");
-  EXPECT_EQ(r.integer(), 0);
-  EXPECT_EQ(r.codes(), Codes{});
-  EXPECT_EQ(r.column(), 4); // nothing moves
-  // The stop came in mid-line: reset drops the rest ("9,") and reads on.
-  EXPECT_TRUE(r.stream.reset());
-  EXPECT_EQ(r.integer(), 123);
-  // A record delimiter in the last data column: the step past it fetches the next line, and
-  // the stop lands on its first column, which reset does not skip.
-  EXPECT_TRUE(r.stream.frozen());
-  EXPECT_EQ(r.line(), 3);
-  EXPECT_EQ(r.column(), 0);
-  EXPECT_TRUE(r.stream.reset());
-  EXPECT_EQ(r.integer(), 7);
-  EXPECT_EQ(r.integer(), 8);
-  // A new entity stops at its first column; reset makes that line readable.
-  EXPECT_TRUE(r.stream.reset());
-  EXPECT_EQ(r.stream.backpointer(), 5);
-  EXPECT_EQ(r.integer(), 4);
-  // The end of input: defaults for ever, and reset refuses.
-  EXPECT_FALSE(r.stream.reset());
-  EXPECT_TRUE(r.stream.fatal_error());
-  EXPECT_EQ(r.integer(), 0);
-  EXPECT_TRUE(r.stream.error_type(igsIOEndOfFile) && r.stream.error_type(igsIOStreamFailed));
-}
-
 // Fixed-width and delimited reads on their own, and delimiters of the file's own.
 TEST(igsInStream, AFixedFieldWiderThanTheLineAndAnotherDelimiter) {
   Reader r({record('D', 1, "  1 2   "), record('P', 1, "1|,|4#", 1)});

@@ -57,31 +57,4 @@ TEST_F(ConvertTest, LinesAndPointSetsBecomePolylinesOfTheirPoints) {
   EXPECT_EQ(written(*line), records({"110,1.,2.,3.,4.,5.,6.;"}));
 }
 
-TEST_F(ConvertTest, WhatHasNoConversionGivesNull) {
-  int before = file->num_entities();
-  EXPECT_EQ(igsConvert::to_curve(nullptr), nullptr);
-  EXPECT_EQ(igsConvert::to_polyline(nullptr), nullptr);
-  EXPECT_EQ(igsConvert::line_to_polyline(nullptr), nullptr);
-  EXPECT_EQ(igsConvert::pointset_to_polyline(nullptr), nullptr);
-
-  auto* point = new igs116;
-  auto* arc = new igs100;
-  auto* polyline = new igsPolyline;
-  ASSERT_TRUE(polyline->set_dimensionality(igsPolylineXYZ));
-  auto* sextuples = new igsPointset;
-  ASSERT_EQ(read(*sextuples, {"106,3,1,1.,2.,3.,0.,0.,1.;"}), 1);
-  auto* unset = new igsPointset;
-  EXPECT_EQ(igsConvert::to_curve(point), nullptr);
-  EXPECT_EQ(igsConvert::to_curve(arc), nullptr);
-  // A polyline is not converted again: no copy of it.
-  EXPECT_EQ(igsConvert::to_polyline(polyline), nullptr);
-  // Tuples with vectors, and a point set without a flag, have no conversion.
-  EXPECT_EQ(igsConvert::to_polyline(sextuples), nullptr);
-  EXPECT_EQ(igsConvert::to_polyline(unset), nullptr);
-  // The direct conversions refuse what is not their kind.
-  EXPECT_EQ(igsConvert::line_to_polyline(point), nullptr);
-  EXPECT_EQ(igsConvert::pointset_to_polyline(polyline), nullptr);
-  EXPECT_EQ(file->num_entities(), before + 5);
-}
-
 } // namespace

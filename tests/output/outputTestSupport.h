@@ -51,11 +51,6 @@ inline Codes codes_of_stream(igsOutStream& stream) {
   return igs_input_test::codes_of(stream.errors());
 }
 
-// The codes of the stream with where they were collected: "igsIOStreamBad@P3:0".
-inline Lines describe_codes(igsOutStream& stream) {
-  return igs_input_test::describe(stream.errors());
-}
-
 // Sets an integer key for one test and puts it back afterwards.
 struct KeyOverride {
   KeyOverride(intcoResourceKey const& key, int value) : m_key(key), m_old(key.value()) {
@@ -97,12 +92,10 @@ class FailingBuf : public std::streambuf {
 class TailBuf : public std::streambuf {
  public:
   std::string const& last() const { return m_last; }
-  std::string const& before_last() const { return m_before_last; }
   long long bytes() const { return m_bytes; }
 
  protected:
   std::streamsize xsputn(char const* s, std::streamsize n) override {
-    m_before_last.swap(m_last);
     m_last.assign(s, static_cast<size_t>(n));
     m_bytes += n;
     return n;
@@ -110,7 +103,6 @@ class TailBuf : public std::streambuf {
 
  private:
   std::string m_last;
-  std::string m_before_last;
   long long m_bytes = 0;
 };
 

@@ -193,66 +193,6 @@ TEST_F(GlobalSectionTest, DelimitersAreTheHollerithCharacterOrTheDefaults) {
   for (auto const& [ch, result] : record_) EXPECT_EQ(global.set_record_delimiter(ch), result);
 }
 
-TEST_F(GlobalSectionTest, ParametersLeftOutTakeTheirDefaultsAndSomeAreErrors) {
-  EXPECT_EQ(read(",,;"), 1);
-  // Those without a default: field number and type of each.
-  Lines expected;
-  int const left_out[][2] = {{3, 1},  {5, 1},  {6, 1},  {7, 2},  {8, 2}, {9, 2},
-                             {10, 2}, {11, 2}, {14, 2}, {18, 1}, {19, 3}};
-  for (auto const& [field, type] : left_out)
-    expected.push_back("igsGlobalSectionIllegalDefault(" + std::to_string(field) + "," +
-                       std::to_string(type) + ")");
-  EXPECT_EQ(describe(igsGlobalLog), expected);
-  EXPECT_EQ(global.model_space_scale(), 1.0);
-  EXPECT_EQ(global.units().type(), igs_unset_int);
-  EXPECT_EQ(global.max_number_of_line_weights(), 1);
-  EXPECT_EQ(global.file_creation_date().date_string(), fixed_today);
-  EXPECT_EQ(global.max_coord_value(), DBL_MAX);
-  EXPECT_EQ(global.name_of_author(), "unknown");
-  EXPECT_EQ(global.authors_organization(), "unknown");
-  EXPECT_EQ(global.iges_version(), 3);
-  EXPECT_EQ(global.drafting_standard(), 0);
-
-  // Each repair sets its value and says which field it defaulted.
-  EXPECT_EQ(fix_all(igsGlobalLog), std::vector<int>(11, 1));
-  EXPECT_TRUE(messages.text().starts_with(
-      "Warning : Invalid data has been found in the global section of the file.\n"
-      "Defaulting the data for field 3 (\"product id from sending system\")\n"))
-      << messages.text();
-  EXPECT_EQ(global.system_id(), "Unknown");
-  EXPECT_EQ(global.preprocessor_version(), "Unknown");
-  EXPECT_EQ(global.binary_bits_for_int(), 4);
-  EXPECT_EQ(global.sp_max_pow10(), 38);
-  EXPECT_EQ(global.dp_sig_digs(), 15);
-  EXPECT_EQ(global.minimum_resolution(), 0.0001);
-  // The receiving system took the sender's id as it was read, and keeps it.
-  EXPECT_EQ(global.product_id_for_receiving_system(), "");
-
-  // A parameter without a default to repair gives the warning alone, and stays.
-  messages.clear();
-  {
-    igsGlobalSectionIllegalDefault other(igsGPFileName, igsGPTypeString);
-    other.set_key(&global);
-    other.set_message_stream(&messages);
-    EXPECT_EQ(other.fix(), 0);
-  }
-  EXPECT_EQ(messages.text(),
-            "Warning : Invalid data has been found in the global section of the file.\n");
-  EXPECT_EQ(global.repair_parameter(igsGPFileName), 0);
-  { // Repairs keyed to no section do nothing.
-    igsGlobalSectionUnitNameTypeMismatch mismatch(igsUnitMillimeter, "IN");
-    igsGlobalSectionInvalidUnitsFlag flag(12);
-    igsGlobalSectionInvalidIgesVersion version(12);
-    EXPECT_EQ(mismatch.fix() + flag.fix() + version.fix(), 0);
-  }
-  EXPECT_EQ(global.repair_parameter(static_cast<igsGlobalParameter>(99)), 0);
-  EXPECT_EQ(global.file_name(), "");
-
-  // A receiving system left out takes the sender's id.
-  EXPECT_EQ(read("1H,,1H;,4HPART,,,,,,,,,;"), 1);
-  EXPECT_EQ(global.product_id_for_receiving_system(), "PART");
-}
-
 TEST_F(GlobalSectionTest, TheModificationDateFromVersion8On) {
   // Parameters 3 to 17 left out, a creation date, 19 to 22 left out, a version.
   std::string const head = "1H,,1H;," + std::string(15, ',') + "13H240101.120000,,,,,";

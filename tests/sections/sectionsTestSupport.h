@@ -151,10 +151,6 @@ class deNode : public igsObject {
     set_directory_entry_type(static_cast<igsEntityType>(type_number), 0);
   }
   void set_data_fails(int fails) { m_data_fails = fails; }
-  // Stands for an entity of another type and form.
-  void set_type(int type, int form) {
-    set_directory_entry_type(static_cast<igsEntityType>(type), form);
-  }
   // Gives up the references the entity holds, as a parent's deletion does.
   void drop_children() { unreference_children(); }
 

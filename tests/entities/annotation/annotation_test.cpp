@@ -379,106 +379,8 @@ TEST(Annotation, EveryDamageIsFoundAndWhatCanBeRepairedIs) {
   for (Damage const& damage : damages) expect_damage(damage);
 }
 
-// The P lines of a record cut every 64 columns, wherever that falls: Hollerith text runs on
-// over the line ends, as a writer gives it.
-igs_input_test::Lines full_lines(std::string const& data) {
-  igs_input_test::Lines lines;
-  for (size_t at = 0; at < data.size(); at += 64) lines.push_back(data.substr(at, 64));
-  return lines;
-}
-
-std::string word(std::string const& text, int characters = -1) {
-  return std::to_string(characters < 0 ? static_cast<int>(text.size()) : characters) +
-         ",1.,1.,1,1.5707963267949,0.,0,0,0.,0.,0.," + std::to_string(text.size()) + "H" + text;
-}
-
-// Texts that hold the delimiters and what looks like Hollerith counts, blanks at either end,
-// and a text far longer than a line and than any count that reading reserves room for; a
-// character count that says something else; a Hollerith count that runs past the record.
-TEST(Annotation, NoteTextsComeBackByteForByte) {
-  std::string const long_text = [] {
-    std::string text;
-    for (int i = 0; text.size() < 70000; ++i) text += std::to_string(i) + (i % 3 ? "," : ";H");
-    return text;
-  }();
-  std::vector<std::string> const texts = {"A,B;C 2H,;", "   leading", "trailing  ", long_text};
-  std::string note = "212," + std::to_string(texts.size());
-  for (std::string const& text : texts) note += "," + word(text);
-  igs_read_test::FileText input;
-  input.entity(input.add(212, 0, full_lines(note + ";"))).line_font = 1;
-  input.entity(input.add(212, 0, full_lines("212,1," + word("HELLO", 999) + ";"))).line_font = 1;
-  input.entity(input.add(212, 0, {"212,1,1,1.,1.,1,1.5707963267949,0.,0,0,0.,0.,0.,40HHELLO;"}))
-      .line_font = 1;
-  input.add(116, 0, {"116,1.,2.,3.,0;"});
-
-  int result = 0;
-  auto file = igs_test::read_text(input.text(), result);
-  ASSERT_EQ(result, 1);
-  auto* read = igs_error_entity<igs212>(1);
-  ASSERT_TRUE(read);
-  for (size_t i = 0; i < texts.size(); ++i)
-    EXPECT_EQ(read->get_word(static_cast<int>(i)).string().view(), texts[i]);
-  // The text that runs past the record takes the rest of its line and no more: the point
-  // behind it is read whole.
-  EXPECT_EQ(igs_error_entity<igs212>(5)->get_word(0).string().view(),
-            "HELLO;" + std::string(7, ' '));
-  EXPECT_EQ(igs_error_entity<igs116>(7)->point(), giPoint3(1.0, 2.0, 3.0));
-
-  // Written, every count is that of the text without the white space at its end.
-  std::string const written = igs_test::written_text(*file);
-  std::string expected = "212," + std::to_string(texts.size());
-  for (std::string const& text : texts)
-    expected += "," + word(text.substr(0, text.find_last_not_of(' ') + 1));
-  EXPECT_EQ(igs_test::written_record(written, 1), expected + ";");
-  EXPECT_EQ(igs_test::written_record(written, 3), "212,1," + word("HELLO") + ";");
-  EXPECT_EQ(igs_test::written_record(written, 5), "212,1," + word("HELLO;") + ";");
-  auto faults = igs_test::round_trip_faults(*file, "notes");
-  EXPECT_TRUE(faults.empty()) << faults.front();
-}
-
-// Built through their setters, the classes hold what they were given; a check finds the values
-// that nothing set, which a file cannot leave unset.
+// Built through their setters, the classes hold what they were given.
 using AnnotationSetters = igs_entity_test::EntityTest;
-
-TEST_F(AnnotationSetters, WhatNothingSetIsFound) {
-  struct Made {
-    igsObject* entity;
-    std::vector<std::string> errors;
-  };
-  std::string const unset = "-1.79769e+308";
-  std::string const at_unset = "x=" + unset + ",y=" + unset;
-  Made const made[] = {
-      {new igs212, {"igs212InvalidNumberOfStrings(count=-2147483647)"}},
-      {new igs214,
-       {"igs214InvalidArrowheadDimension(height=" + unset + ",length=" + unset + ")",
-        "igs214InvalidSize(size=-2147483647)"}},
-      {new igsWitnessLine,
-       {"igs106BaseInvalidIP(ip=0)", "igsWitnessLineCoincidentPoints",
-        "igsWitnessLineInvalidSize(size=-2147483647)"}},
-      {new igsSection, {"igs106BaseInvalidIP(ip=0)", "igsSectionInvalidSize(size=-2147483647)"}},
-      {new igs202,
-       {"igs202InvalidNumberOfLeaders", "igs202InvalidPoint(" + at_unset + ")",
-        "igs202InvalidRadius(radius=" + unset + ")", "igsDimensionNullGeneralNotePointer"}},
-      {new igs204,
-       {"igs204InvalidNumberOfCurves", "igs204InvalidNumberOfLeaders",
-        "igsDimensionNullGeneralNotePointer"}},
-      {new igs206,
-       {"igs206InvalidNumberOfLeaders", "igs206InvalidPoint(" + at_unset + ")",
-        "igsDimensionNullGeneralNotePointer"}},
-      {new igs208,
-       {"igs208InvalidPoint(" + at_unset + ",z=" + unset + ")",
-        "igsDimensionNullGeneralNotePointer"}},
-      {new igs218, {"igs218InsufficientData", "igsDimensionNullGeneralNotePointer"}},
-      {new igs222,
-       {"igs222InvalidPoint", "igs222NullFirstLeaderPointer",
-        "igsDimensionNullGeneralNotePointer"}},
-      {new igs228, {"igs228InvalidDEFormNumber(form=1)", "igs228InvalidNumberOfGeometryPointers"}},
-      {new igs230,
-       {"igs230InvalidLineSpacing", "igs230InvalidNumberOfInteriorCurves", "igs230InvalidPoint",
-        "igs230NullExteriorCurve"}},
-  };
-  for (Made const& m : made) EXPECT_EQ(checked(*m.entity), m.errors) << m.entity->objtype().name();
-}
 
 TEST_F(AnnotationSetters, WordsAndTheirRepairs) {
   auto* note = new igs212;
@@ -558,25 +460,6 @@ TEST_F(AnnotationSetters, FormsCurvesAndPatterns) {
   EXPECT_EQ(area->point().x(), 0.0);
   EXPECT_EQ(area->pattern_spacing(), 0.0);
   EXPECT_EQ(area->angle().angle(giAngleRadiansTag), 0.0);
-}
-
-// A repair that drops a leader keeps the positions that errors name: the leaders read at 1 and
-// 2 are found at 0 and 1, and the errors that name them still reach them.
-TEST_F(AnnotationSetters, DroppedLeadersLeaveTheirPositionsKnown) {
-  Records const records = {
-      {210, 0, "210,0,3,3,5,7;"}, bad_leader, {214, 1, "214,1,1.,1.,0.,0.,0.,1.,1.;"}, leader};
-  int result = 0;
-  auto read = igs_test::read_text(file_text(records), result);
-  igs210* label = igs_error_entity<igs210>(1);
-  ASSERT_TRUE(label);
-  label->check();
-  EXPECT_EQ(label->drop_leaders(igsDrop::bad_if_any), 2);
-  EXPECT_EQ(label->get_leader_index(0), -1);
-  EXPECT_EQ(label->get_leader_index(1), 0);
-  EXPECT_EQ(label->get_leader_index(2), 1);
-  igs210InvalidLeader error(2);
-  error.set_key(1);
-  EXPECT_EQ(error.obj(), 7);
 }
 
 } // namespace
