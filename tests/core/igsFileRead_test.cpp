@@ -145,55 +145,6 @@ TEST_F(ReadTest, ReferencesBindForwardAndToNothing) {
   EXPECT_FALSE(entity<igs116>(even)->display_symbol());
 }
 
-TEST_F(ReadTest, BlankLinesAndLinesOutOfSequenceEachGiveOneErrorOfTheFile) {
-  FileText f = three_entities();
-  Lines d = f.directory();
-  Lines p = f.parameters();
-  struct Case {
-    char const* what;
-    Lines lines;
-    Lines errors;
-  };
-  auto renumbered = [](std::string line, int number) {
-    return line.replace(73, 7, right(number, 7));
-  };
-  Lines const blank = {"igsFileBlankLine"};
-  Lines const sequence = {"igsFileInvalidLineNumbers"};
-  std::vector<Case> cases = {
-      {"blank line in front of the Global section",
-       f.start() + Lines{""} + f.global() + d + p + f.terminate(), blank},
-      {"blank line between D entries",
-       f.start() + f.global() + Lines{d[0], d[1], "", d[2], d[3], d[4], d[5]} + p + f.terminate(),
-       blank},
-      {"blank line inside a record",
-       f.start() + f.global() + d + Lines{p[0], p[1], "\t", p[2], p[3]} + f.terminate(), blank},
-      {"first line of a D entry out of sequence",
-       f.start() + f.global() + Lines{d[0], d[1], renumbered(d[2], 9), d[3], d[4], d[5]} + p +
-           f.terminate(),
-       sequence},
-      {"later line of a record out of sequence",
-       f.start() + f.global() + d + Lines{p[0], p[1], renumbered(p[2], 1), p[3]} + f.terminate(),
-       sequence},
-      {"both, twice each",
-       f.start() + Lines{""} + f.global() + d + Lines{p[0], "", renumbered(p[1], 7), p[2]} +
-           Lines{renumbered(p[3], 1)} + f.terminate(),
-       Lines{"igsFileInvalidLineNumbers", "igsFileBlankLine"}},
-  };
-  for (Case const& c : cases) {
-    SCOPED_TRACE(c.what);
-    file = std::make_unique<igsFile>();
-    file->set_message_stream(&messages);
-    EXPECT_EQ(read(c.lines), 1);
-    EXPECT_EQ(file->num_entities(), 3);
-    EXPECT_EQ(errors(), c.errors);
-    EXPECT_EQ(entity<igs100>(5)->end_point(), giPoint2(0, 2));
-  }
-  // The repairs of the last case.
-  EXPECT_EQ(repaired(), "Warning : There were out of sequence line numbers found in this file.\n"
-                        "This may cause some data to be processed incorrectly.\n"
-                        "Warning : There are blank line(s) in this file.\n");
-}
-
 // Reaches the protected record operations of any entity.
 struct RecordAccess : igsObject {
   static void write_record(igsObject& e, igsOutStream& out) { (e.*&RecordAccess::write)(out); }

@@ -105,12 +105,6 @@ class WriteTest : public FileTest {
   static std::string record(std::string const& text, int de) {
     return igs_test::written_record(text, de);
   }
-  // A field of the D lines of a DE number, by line (1 or 2) and first column.
-  static std::optional<int> de_field(std::string const& text, int de, int line, int column) {
-    std::vector<std::string> lines = section_lines(text, 'D');
-    std::string const& l = lines.at(static_cast<size_t>(de - 1 + line - 1));
-    return igs_test::fixed_number(std::string_view(l).substr(static_cast<size_t>(column - 1), 8));
-  }
 
   fs::path write_dir;
   kvnabsStringOutput messages;

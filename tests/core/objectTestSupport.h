@@ -37,7 +37,6 @@ class testNode : public igsObject {
   }
 
   int value() const { return m_value; }
-  void set_value(int value) { m_value = value; }
   int num_children() const { return m_children.size(); }
   igsObjectPtr& child(int i) { return m_children[i]; }
   void add_child(igsObjectPtr const& child) { m_children.append(child); }

@@ -52,41 +52,6 @@ TEST_F(LogTest, ErrorsAreFiledUnderTheirKeyAtTheNextLookAtTheLog) {
   EXPECT_EQ(structure_log().num_errors(21), 1);
 }
 
-TEST_F(LogTest, MarkingAsFixedTakesTheErrorOutOfTheCountsAndFreesItsSlot) {
-  auto* node = new testNode(-1);
-  igsError* first = raise(*node);
-  igsError* second = raise(*node);
-  node->raise_structure_error();
-  EXPECT_EQ(node->num_logged_errors(), 3);
-
-  log().mark_as_fixed(first);
-  EXPECT_EQ(node->num_logged_errors(), 2);
-  EXPECT_EQ(object_log().num_errors(), 1);
-  EXPECT_EQ(walk(object_log()), std::vector<igsError*>{second});
-  // Marked once only: a second call finds it in no active list.
-  EXPECT_EQ(object_log().mark_as_fixed(first), 0);
-  EXPECT_EQ(node->num_logged_errors(), 2);
-  // The next error takes the freed slot.
-  EXPECT_EQ(filed_position(raise(*node)), 0);
-
-  // Each section log takes only its own kind.
-  EXPECT_EQ(log().get_section_log(igsGlobalLog).mark_as_fixed(second), 0);
-  EXPECT_EQ(object_log().num_errors(node->de_number()), 2);
-}
-
-TEST_F(LogTest, ErrorsOutliveTheirEntity) {
-  auto* node = new testNode(-1);
-  new testNode;
-  int de = node->de_number();
-  node->check();
-  node->raise_structure_error();
-  delete node;
-  EXPECT_EQ(object_log().num_errors(de), 1);
-  EXPECT_EQ(structure_log().num_errors(de), 1);
-  // The next entity in that slot inherits the count, by DE number.
-  EXPECT_EQ((new testNode)->num_logged_errors(), 2);
-}
-
 TEST_F(LogTest, EachBaseHasItsOwnSectionLog) {
   struct Case {
     igsError* error;

@@ -158,31 +158,6 @@ TEST_F(FixerTest, ChildrenAreRepairedFirstAndParentsSeeHowTheyFared) {
   EXPECT_EQ(object_log().num_errors(), 0);
 }
 
-TEST_F(FixerTest, AnUnrepairableChildStaysActiveAndItsParentDropsIt) {
-  fixerNode* good = node();
-  fixerNode* bad = node();
-  good->raise_own(1);
-  bad->raise_own(0);
-  fixerNode* keeps = parent_of(good);
-  fixerNode* drops = parent_of(bad);
-
-  fixer.fix(log(), 1);
-  EXPECT_EQ(good->num_logged_errors(), 0);
-  EXPECT_EQ(bad->num_logged_errors(), 1);
-  EXPECT_EQ(target(keeps->child(0)), good);
-  EXPECT_FALSE(drops->child(0));
-  EXPECT_EQ(keeps->num_logged_errors(), 0);
-  EXPECT_EQ(drops->num_logged_errors(), 0);
-  // Dropping the reference does not delete the child.
-  EXPECT_EQ(target(igsObjectPtr(bad->de_number())), bad);
-  EXPECT_EQ(object_log().num_errors(), 1);
-  // Each child's repair came before its parent's.
-  std::vector<int> const& calls = fix_calls();
-  auto at = [&](int tag) { return std::find(calls.begin(), calls.end(), tag) - calls.begin(); };
-  EXPECT_LT(at(good->de_number()), at(keeps->de_number()));
-  EXPECT_LT(at(bad->de_number()), at(drops->de_number()));
-}
-
 TEST_F(FixerTest, WithFlagZeroAFailedRepairEndsOnlyItsEntitysErrors) {
   fixerNode* stuck = node();
   fixerNode* other = node();
@@ -200,33 +175,6 @@ TEST_F(FixerTest, WithFlagZeroAFailedRepairEndsOnlyItsEntitysErrors) {
   again.fix(log(), 1);
   EXPECT_EQ(fix_calls(), (std::vector<int>{11, 12}));
   EXPECT_EQ(stuck->num_logged_errors(), 1);
-}
-
-TEST_F(FixerTest, WithFlagZeroAFailedStructureRepairEndsItsSectionButNotTheOthers) {
-  fixerNode* entity = node();
-  int de = entity->de_number();
-  entity->raise<fixerStructureRepair>(de, 1, 0);
-  entity->raise<fixerStructureRepair>(de, 2, 1);
-  entity->raise<fixerObjectRepair>(3, 1);
-  new fixerGlobalRepair(4, 0);
-  new fixerGlobalRepair(5, 1);
-  new fixerStartRepair(6, 1);
-  new fixerTerminateRepair(7, 1);
-  fixer.fix(log(), 0);
-  EXPECT_EQ(fix_calls(), (std::vector<int>{1, 3, 4, 6, 7}));
-  EXPECT_EQ(structure_log().num_errors(), 2);
-  EXPECT_EQ(object_log().num_errors(), 0);
-  EXPECT_EQ(log().get_section_log(igsGlobalLog).num_errors(), 2);
-  EXPECT_EQ(log().get_section_log(igsStartLog).num_errors(), 0);
-  EXPECT_EQ(log().get_section_log(igsTerminateLog).num_errors(), 0);
-  EXPECT_EQ(entity->num_logged_errors(), 2);
-
-  // With the flag set every section is walked to its end; what failed before is run again.
-  fix_calls().clear();
-  igsFixer().fix(log(), 1);
-  EXPECT_EQ(fix_calls(), (std::vector<int>{1, 2, 4, 5}));
-  EXPECT_EQ(structure_log().num_errors(), 1);
-  EXPECT_EQ(log().get_section_log(igsGlobalLog).num_errors(), 1);
 }
 
 TEST_F(FixerTest, ACycleReachedFromARootIsCutWhereItClosesAndRun) {
@@ -259,22 +207,6 @@ TEST_F(FixerTest, ANodeOfDENumberZeroStandsInForAChildThatHasGone) {
   EXPECT_EQ(distance(fixer, parent), 1);
   EXPECT_EQ(fixer.find_node(parent->de_number())->num_children(), 1);
   EXPECT_EQ(fix_calls(), std::vector<int>{parent->de_number()});
-  EXPECT_EQ(object_log().num_errors(), 0);
-}
-
-TEST_F(FixerTest, ARepairThatDeletesItsEntityLeavesTheEntitysLaterErrorsHarmless) {
-  fixerNode* child = node();
-  fixerNode* parent = parent_of(child);
-  int de = parent->de_number();
-  child->raise<fixerDeleteEntity>(1); // the child's repair deletes it
-  parent->raise<fixerDeleteEntity>(2);
-  parent->raise_own(1);
-  fixer.fix(log(), 0);
-  // The parent's later errors resolve their key to nothing and do nothing.
-  EXPECT_EQ(fix_calls(), (std::vector<int>{1, de, 2, de}));
-  EXPECT_FALSE(igsObjectPtr(de));
-  EXPECT_EQ(file->num_entities(), 0);
-  // Errors outlive their entity; all of these were marked as fixed.
   EXPECT_EQ(object_log().num_errors(), 0);
 }
 

@@ -176,38 +176,6 @@ TEST(igsInBufferChecker, BackPointersOfWideLines) {
   EXPECT_EQ(describe(stream2.errors()), Lines{"igsIOValuePresent@P2:2"});
 }
 
-// Lines that the filler never delivers, given to a checker directly.
-TEST(igsInBufferChecker, ChecksLinesItIsGiven) {
-  LineHolder holder;
-  igsInBufferChecker checker;
-  auto check = [&](std::string const& text, int& data_end) {
-    charcoDynArr& line = holder.buffer();
-    line.shrink(0);
-    for (char c : text) line.append(c);
-    line.append('\0');
-    line.shrink(static_cast<int>(text.size()));
-    return checker.check(holder, data_end);
-  };
-  int data_end = -1;
-  // A blank sequence field, first of a new section: code 8, and the number 0 stands.
-  EXPECT_FALSE(check(with_sequence(g1, "       "), data_end));
-  igsFileSection section;
-  int line = -1;
-  checker.position(section, line);
-  EXPECT_EQ(section, igsSectionGlobal);
-  EXPECT_EQ(line, 0);
-  EXPECT_EQ(data_end, 73); // one past the newline that took the letter's place
-  EXPECT_EQ(holder.buffer()[72], '\n');
-  igsIOErrorcoDynArr errors;
-  checker.collect_errors(errors);
-  EXPECT_EQ(codes_of(errors), (Codes{igsIOBadLineNumber, igsIOLineSequence, igsIOSectionEnd}));
-  // A Parameter line one column short: the data end is the first blank left of the letter.
-  EXPECT_TRUE(checker.reset());
-  EXPECT_FALSE(check(record('P', 1, "1;", 12).erase(0, 1), data_end));
-  EXPECT_EQ(data_end, 68);
-  EXPECT_EQ(checker.backpointer(), 12);
-}
-
 int callback_count = 0;
 
 TEST(igsInBufferChecker, LineReadCallbackRunsForEveryFetch) {

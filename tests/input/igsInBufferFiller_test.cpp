@@ -69,6 +69,9 @@ std::vector<LineCase> const line_cases = {
     {"no line ends at all", s1 + s2 + s1 + s2, {s1, s2, s1, s2}},
     // A CR in mid-line ends it; the text up to the LF is joined to the next line.
     {"lone CR", "S      1\rS      2\nS      3\n", {record('S', 1, ""), record('S', 3, "S      2")}},
+    {"lone CR behind a whole record",
+     s1 + "\rS      2\nS      3\n",
+     {s1, record('S', 3, "S      2")}},
     {"CR in a line that is cut: nothing is lost",
      repeat('A', 100) + "\r" + repeat('B', 10) + "\nS      1\n",
      {repeat('A', 80), record('S', 1, repeat('A', 20) + repeat('B', 10))}},

@@ -251,6 +251,8 @@ TEST(Geometry, UnsetValuesLengthsMatricesAndTransforms) {
   EXPECT_TRUE(product.invalid());
   product.become(giXformProductTag, translate, scale); // scale, then translate
   EXPECT_EQ(product.apply(giPoint3(1, 1, 1)), giPoint3(3, 4, 5));
+  product.become(giXformProductTag, translate, giXform3());
+  EXPECT_TRUE(product.invalid());
 }
 
 } // namespace

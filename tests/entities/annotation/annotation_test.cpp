@@ -450,6 +450,12 @@ TEST_F(AnnotationSetters, FormsCurvesAndPatterns) {
   dimension->set_second_curve(second);
   EXPECT_EQ(dimension->num_curves(), 2);
   EXPECT_EQ(dimension->curve(1), first);
+  // A new count of geometry starts an empty list, of no entity at all for 0.
+  auto* associativity = new igs228;
+  associativity->set_num_objects(1);
+  associativity->add_geometry(first, 0);
+  associativity->set_num_objects(0);
+  EXPECT_FALSE(associativity->get_geometry(0));
 
   auto* area = new igs230;
   area->set_point(1.0, 2.0);

@@ -19,27 +19,26 @@ namespace {
 // Two solids' worth of topology on one vertex list and one edge list: an outer and a void shell,
 // two faces, a loop of three edges (one of them by its vertex) and a loop of one, on two lines
 // and an arc.
-Family const solids = {"solids",
-                       "solids",
-                       {
-                           {186, 0, "186,3,1,1,5,0;"},
-                           {514, 1, "514,2,7,1,9,0;"},
-                           {514, 1, "514,1,9,1;"},
-                           {510, 1, "510,0,1,1,11;"},
-                           {510, 1, "510,0,2,0,11,13;"},
-                           {508, 1, "508,3,0,15,1,1,1,0,19,0,15,2,0,2,1,21,0,23,1,17,3,1,0;"},
-                           {508, 1, "508,1,0,15,3,0,0;"},
-                           {504, 1, "504,3,19,17,1,17,2,21,17,2,17,3,23,17,3,17,1;"},
-                           {502, 1, "502,3,0.,0.,0.,1.,0.,0.,1.,1.,0.;"},
-                           {110, 0, "110,0.,0.,0.,1.,0.,0.;"},
-                           {100, 0, "100,0.,1.,0.5,1.,0.,1.,1.;"},
-                           {110, 0, "110,1.,1.,0.,0.,0.,0.;"},
-                       },
-                       {"@1 igs186InnerShellInvalidShell(i=0)", "@1 igs186OuterShellInvalidShell",
-                        "@3 igs514OrientatedFaceInvalidFace(i=0)",
-                        "@3 igs514OrientatedFaceInvalidFace(i=1)",
-                        "@5 igs514OrientatedFaceInvalidFace(i=0)", "@7 igs510NullSurface",
-                        "@9 igs510NullSurface"}};
+Family const solids = {
+    "solids",
+    "solids",
+    {
+        {186, 0, "186,3,1,1,5,0;"},
+        {514, 1, "514,2,7,1,9,0;"},
+        {514, 1, "514,1,9,1;"},
+        {510, 1, "510,0,1,1,11;"},
+        {510, 1, "510,0,2,0,11,13;"},
+        {508, 1, "508,3,0,15,1,1,1,0,19,0,15,2,0,2,1,21,0,23,1,17,3,1,0;"},
+        {508, 1, "508,1,0,15,3,0,0;"},
+        {504, 1, "504,3,19,17,1,17,2,21,17,2,17,3,23,17,3,17,1;"},
+        {502, 1, "502,3,0.,0.,0.,1.,0.,0.,1.,1.,0.;"},
+        {110, 0, "110,0.,0.,0.,1.,0.,0.;"},
+        {100, 0, "100,0.,1.,0.5,1.,0.,1.,1.;"},
+        {110, 0, "110,1.,1.,0.,0.,0.,0.;"},
+    },
+    {"@1 igs186InnerShellInvalidShell(i=0)", "@1 igs186OuterShellInvalidShell",
+     "@3 igs514OrientatedFaceInvalidFace(i=0)", "@3 igs514OrientatedFaceInvalidFace(i=1)",
+     "@5 igs514OrientatedFaceInvalidFace(i=0)", "@7 igs510NullSurface", "@9 igs510NullSurface"}};
 
 TEST(Solids, TheFamilyFile) {
   expect_family(solids);
@@ -80,7 +79,8 @@ Records with_tail(Record const& damaged, Records const& more = {}) {
 }
 Record const unread = {502, 1, "502,-1;"}; // not read: deleted at once, a reference to it null
 Record const no_radius = {100, 0, "100,0.,3.,4.,3.,4.,3.,4.;"};
-char const* const no_data_13 = "Warning : There is no Parameter Data associated with object DE 13.\n";
+char const* const no_data_13 =
+    "Warning : There is no Parameter Data associated with object DE 13.\n";
 
 Damage const damages[] = {
     // Loops.
@@ -94,10 +94,12 @@ Damage const damages[] = {
       "@1 igs508OrientatedEdge504OffsetOutOfRange(i=1)"},
      {"@1 igs508OrientatedEdge504OffsetOutOfRange(i=0)",
       "@1 igs508OrientatedEdge504OffsetOutOfRange(i=1)"}},
-    {"an oriented edge whose list is a line", with_tail({508, 1, "508,1,0,9,1,1,0;"}),
+    {"an oriented edge whose list is a line",
+     with_tail({508, 1, "508,1,0,9,1,1,0;"}),
      {"@1 igs508OrientatedEdgeWrongListType(i=0)"},
      {"@1 igs508OrientatedEdgeWrongListType(i=0)"}},
-    {"an oriented edge whose edge list was deleted", with_tail({508, 1, "508,1,0,13,1,1,0;"}, {unread}),
+    {"an oriented edge whose edge list was deleted",
+     with_tail({508, 1, "508,1,0,13,1,1,0;"}, {unread}),
      {"@1 igs508OrientatedEdgeNullList(i=0)", "@13 igsFileNoPDData(de_number=13)"},
      {"@1 igs508OrientatedEdgeNullList(i=0)"},
      no_data_13},
@@ -143,20 +145,24 @@ Damage const damages[] = {
      {"@1 igs508OrientatedEdge502InvalidList(i=1)",
       "@1 igs508OrientatedEdge504EdgeInvalidFirstList(i=0,e=0)",
       "@1 igs508OrientatedEdge504EdgeInvalidSecondList(i=0,e=0)", "@15 igs502InvalidVertex"}},
-    {"an edge list with no edges", with_tail({508, 1, "508,1,0,13,1,1,0;"}, {{504, 1, "504,0;"}}),
+    {"an edge list with no edges",
+     with_tail({508, 1, "508,1,0,13,1,1,0;"}, {{504, 1, "504,0;"}}),
      {"@1 igs508OrientatedEdge504InvalidList(i=0)",
       "@1 igs508OrientatedEdge504OffsetOutOfRange(i=0)", "@13 igs504NoEdges"},
      {"@1 igs508OrientatedEdge504InvalidList(i=0)",
       "@1 igs508OrientatedEdge504OffsetOutOfRange(i=0)", "@13 igs504NoEdges"}},
-    {"a vertex list with no vertices", with_tail({508, 1, "508,1,1,13,1,1,0;"}, {{502, 1, "502,0;"}}),
+    {"a vertex list with no vertices",
+     with_tail({508, 1, "508,1,1,13,1,1,0;"}, {{502, 1, "502,0;"}}),
      {"@1 igs508OrientatedEdge502InvalidList(i=0)",
       "@1 igs508OrientatedEdge502OffsetOutOfRange(i=0)", "@13 igs502NoVertices"},
      {"@1 igs508OrientatedEdge502InvalidList(i=0)",
       "@1 igs508OrientatedEdge502OffsetOutOfRange(i=0)", "@13 igs502NoVertices"}},
-    {"a loop of no oriented edges", with_tail({508, 1, "508,0;"}),
+    {"a loop of no oriented edges",
+     with_tail({508, 1, "508,0;"}),
      {"@1 igs508NoOrientatedEdges"},
      {"@1 igs508NoOrientatedEdges"}},
-    {"a loop of a negative count is not read", with_tail({508, 1, "508,-2;"}),
+    {"a loop of a negative count is not read",
+     with_tail({508, 1, "508,-2;"}),
      {"@1 igsFileNoPDData(de_number=1)"},
      {},
      "Warning : There is no Parameter Data associated with object DE 1.\n"},
@@ -174,7 +180,8 @@ Damage const damages[] = {
      {"@1 igs510InvalidLoop(loop=2)", "@1 igs510NullLoop", "@1 igs510NullSurface",
       "@1 igs510WrongLoopType", "@15 igs508OrientatedEdge504OffsetOutOfRange(i=0)"},
      no_data_13},
-    {"a face of no loops", with_tail({510, 1, "510,0,0,1;"}),
+    {"a face of no loops",
+     with_tail({510, 1, "510,0,0,1;"}),
      {"@1 igs510NoLoops", "@1 igs510NullSurface"},
      {"@1 igs510NoLoops", "@1 igs510NullSurface"}},
     {"a face whose loop is repaired first",
@@ -190,7 +197,9 @@ Damage const damages[] = {
       "@15 igs100ZeroRadius"}},
 
     // Shells and solids.
-    {"a shell with no faces", with_tail({514, 1, "514,-3;"}), {"@1 igs514NoFaces"},
+    {"a shell with no faces",
+     with_tail({514, 1, "514,-3;"}),
+     {"@1 igs514NoFaces"},
      {"@1 igs514NoFaces"}},
     {"a shell of faces missing, no face, failing and flagged 2: every bad face goes at once",
      with_tail({514, 1, "514,4,0,1,9,1,13,2,15,0;"}, {{510, 1, "510,0,1,1,3;"}, unread}),
@@ -200,7 +209,8 @@ Damage const damages[] = {
       "@15 igsFileNoPDData(de_number=15)"},
      {"@1 igs514NoFaces", "@13 igs510NullSurface"},
      "Warning : There is no Parameter Data associated with object DE 15.\n"},
-    {"a solid whose shell has no faces, flagged 2", with_tail({186, 0, "186,13,2,0;"}, {{514, 1, "514,0;"}}),
+    {"a solid whose shell has no faces, flagged 2",
+     with_tail({186, 0, "186,13,2,0;"}, {{514, 1, "514,0;"}}),
      {"@1 igs186OuterShellInvalidOrientation", "@1 igs186OuterShellInvalidShell",
       "@13 igs514NoFaces"},
      {"@1 igs186OuterShellInvalidOrientation", "@1 igs186OuterShellInvalidShell",
@@ -263,6 +273,13 @@ TEST_F(ShellTest, AShellLosesItsBadFacesAndItsIndexListFollows) {
   // With a position mapped twice the later one is the original.
   shell->set_index(0, 1);
   EXPECT_EQ(shell->get_original_index(1), 2);
+  // A repair of an edge of a loop finds no loop under the shell's number, and no edge in an
+  // empty loop.
+  for (int key : {shell->de_number(), (new igs508)->de_number()}) {
+    auto* error = new igs508OrientatedEdgeWrong504EdgeType(0);
+    error->set_key(key);
+    EXPECT_EQ(error->fix(), 0);
+  }
 }
 
 } // namespace

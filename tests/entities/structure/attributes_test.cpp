@@ -2,6 +2,7 @@
 // file of every class, each damage a file can carry with what check and repair make of it,
 // and the colour that a colour definition's own Directory Entry is repaired to.
 #include "entities/entityFamily.h"
+#include "entities/structure/igs310.h"
 #include "entities/structure/igs312.h"
 #include "entities/structure/igs314.h"
 #include "entities/structure/igs416.h"
@@ -132,6 +133,13 @@ TEST(Attributes, ADefinitionNamesItsColourAndWhatIsBuiltInMemoryIsChecked) {
   auto file = igs_test::read_text(file_text(attributes.records), result);
   EXPECT_EQ(igsObjectPtr(25)->directory_entry().colour().colour_name(), utString("ORANGE"));
   EXPECT_EQ(igsObjectPtr(25)->directory_entry().colour().colour_value(), 2);
+  for (igsFileIT it(file.get()); ++it;) {
+    auto const* font = it()->isa(igs310::type()) ? static_cast<igs310*>(it()) : nullptr;
+    for (int i = 0; font && i < font->number_of_shapes(); ++i) {
+      EXPECT_FALSE(font->read_character(i).invalid());
+    }
+  }
+  EXPECT_TRUE(igsCharacter().invalid());
   // A font that names a definition that is not there is no font.
   auto* text_template = new igs312;
   text_template->set_font_code(-99);
