@@ -70,6 +70,14 @@ std::string printed(igsFile const& file) {
   return text.str();
 }
 
+std::string faults_text(std::vector<std::string> const& faults) {
+  std::string text;
+  for (auto const& f : faults) text += f + "\n";
+  return text;
+}
+
+} // namespace
+
 // Compares the text with the fixture file, or writes the file under IGS_UPDATE_FIXTURES.
 void expect_fixture(std::filesystem::path const& path, std::string const& text) {
   if (char const* update = std::getenv("IGS_UPDATE_FIXTURES"); update && *update == '1') {
@@ -80,14 +88,6 @@ void expect_fixture(std::filesystem::path const& path, std::string const& text) 
                                              << " differs; IGS_UPDATE_FIXTURES=1 "
                                                 "writes it anew";
 }
-
-std::string faults_text(std::vector<std::string> const& faults) {
-  std::string text;
-  for (auto const& f : faults) text += f + "\n";
-  return text;
-}
-
-} // namespace
 
 std::string registered_class(int type, int form) {
   struct Registration {
