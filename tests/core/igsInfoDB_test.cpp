@@ -39,7 +39,6 @@ TEST(igsInfoDB, DefaultFormsAndRegisteredFormsExist) {
     int type, min_form, max_form;
   } const registrations[] = {
 #define IGS_ENTITY(type, min_form, max_form, Class) {type, min_form, max_form},
-#define IGS_ENTITY_PLANNED(type, min_form, max_form, Class) {type, min_form, max_form},
 #include "entities/igsEntityTable.def"
   };
   for (Registration const& r : registrations) {
