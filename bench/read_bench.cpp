@@ -279,8 +279,11 @@ struct RecordText {
     data.resize(72, ' ');
     return data + letter + number(number_, 7) + "\n";
   }
-  // The DE number of the record; `matrix` is the DE number of its transformation matrix.
-  int add(int type, int form, std::string fields, int matrix = 0) {
+  // The DE number of the record; `matrix` is the DE number of its transformation matrix, and
+  // `line_font` and `colour` go to the Directory Entry's fields as they are (a negative one
+  // names a definition by minus its DE number).
+  int add(int type, int form, std::string fields, int matrix = 0, int line_font = 0,
+          int colour = 0) {
     int de = 2 * entities + 1;
     int first = p_line + 1;
     fields = std::to_string(type) + fields + ";";
@@ -291,12 +294,12 @@ struct RecordText {
       data.resize(64, ' ');
       p += line(data + " " + number(de, 7), 'P', ++p_line);
     }
-    d += line(number(type, 8) + number(first, 8) + "       0       0       0       0" +
-                  number(matrix, 8) + "       000000000",
+    d += line(number(type, 8) + number(first, 8) + "       0" + number(line_font, 8) +
+                  "       0       0" + number(matrix, 8) + "       000000000",
               'D', de);
-    d +=
-        line(number(type, 8) + "       0       0" + number(p_line - first + 1, 8) + number(form, 8),
-             'D', de + 1);
+    d += line(number(type, 8) + "       0" + number(colour, 8) + number(p_line - first + 1, 8) +
+                  number(form, 8),
+              'D', de + 1);
     ++entities;
     return de;
   }
@@ -652,3 +655,39 @@ void BM_ReadConicSplineOffsets(benchmark::State& state) {
 }
 BENCHMARK(BM_ReadConicSplineOffsets)->Unit(benchmark::kMillisecond)->Iterations(3);
 // ---- End of the conics, parametric splines and offsets.
+
+// ---- Attributes: geometry drawn in defined colours and line fonts, with names and the
+// definitions of text. Each unit holds a colour definition (cyan, the nearest predefined
+// colour), a name property and ten lines
+// whose Directory Entries name that colour and a line font pattern; every fiftieth unit adds a
+// line font pattern, a text font of two characters, a text template and an external reference.
+namespace {
+
+Generated generate_attributes(std::size_t at_least) {
+  RecordText file;
+  Reals reals;
+  int pattern = 0;
+  for (int unit = 0; file.d.size() + file.p.size() < at_least; ++unit) {
+    if (unit % 50 == 0) {
+      pattern = file.add(304, 2, ",4,2.,1.,0.5,1.,1H5", 0, 1);
+      int font = file.add(310, 0, ",1001,6HSIMPLX,1,8,2,65,9,0,2,1,4,8,0,0,0,66,9,0,1,0,0,8");
+      file.add(312, 0,
+               ",12.5,3.5," + std::to_string(-font) + ",1.5707963267949,0.,0,0" + reals.fields(3));
+      file.add(416, 1, ",15Hpart-" + std::to_string(100000 + unit % 900000) + ".igs");
+    }
+    int colour =
+        file.add(314, 0, ",25.,50.,75.,8HSTEEL-" + std::to_string(10 + unit % 90), 0, 0, 7);
+    file.add(406, 15, ",1,9HPART-" + std::to_string(1000 + unit % 9000));
+    for (int i = 0; i < 10; ++i) file.add(110, 0, reals.fields(6), 0, -pattern, -colour);
+  }
+  return file.text();
+}
+
+void BM_ReadAttributes(benchmark::State& state) {
+  static Generated const g = generate_attributes(50u << 20);
+  measure_read(state, g);
+}
+BENCHMARK(BM_ReadAttributes)->Unit(benchmark::kMillisecond)->Iterations(3);
+
+} // namespace
+// ---- End of the attributes.

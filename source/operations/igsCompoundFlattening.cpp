@@ -10,11 +10,15 @@
 #include "entities/surfaces/igs142.h"
 
 #include <algorithm>
+#include <unordered_set>
 
 namespace {
 
-int on_path(std::vector<igsCompound const*> const& path, igsObject const* entity) {
-  return std::find(path.begin(), path.end(), entity) != path.end();
+// The compounds on the path from the top down to the one being walked; none is there twice.
+using Path = std::unordered_set<igsObject const*>;
+
+int on_path(Path const& path, igsObject const* entity) {
+  return path.count(entity) != 0;
 }
 
 } // namespace
@@ -60,41 +64,65 @@ void igsCompound::explode_solids() {
   set_entities(members);
 }
 
-void igsCompound::flatten_groups() {
-  std::vector<igsCompound const*> path;
-  flatten_groups(path);
-}
+// Both walks keep their own stack, so that groups nested however deep cannot exhaust the
+// call stack; a group that is already on the path stands as a plain member there.
 
-void igsCompound::flatten_groups(std::vector<igsCompound const*>& path) {
-  auto nested = [&path](igsObjectPtr const& m) {
-    return m && m->typeof(igsGroup::type())&& !on_path(path, m.operator->());
+void igsCompound::flatten_groups() {
+  // A group being flattened: the members gathered so far and the position of the next one.
+  struct Frame {
+    igsCompound* group;
+    int next = 0;
+    int nested = 0; // whether a group was met among the members
+    igsObjectPtrcoDynArr members = {};
   };
-  path.push_back(this);
-  if (std::any_of(m_entities.members().begin(), m_entities.members().end(), nested)) {
-    igsObjectPtrcoDynArr members;
-    for (igsObjectPtr const& member : m_entities.members()) {
-      if (!nested(member)) {
-        members.append(member);
-        continue;
-      }
-      auto& group = static_cast<igsCompound&>(*member);
-      group.flatten_groups(path);
-      for (igsObjectPtr const& inner : group.m_entities.members()) members.append(inner);
+  std::vector<Frame> stack{{this}};
+  Path path{this};
+  igsCompound const* done = nullptr; // the group whose flattening has just ended
+  while (!stack.empty()) {
+    Frame& top = stack.back();
+    auto const& members = top.group->m_entities.members();
+    if (top.next == members.size()) {
+      if (top.nested) top.group->set_entities(top.members);
+      done = top.group;
+      path.erase(top.group);
+      stack.pop_back();
+      continue;
     }
-    set_entities(members);
+    igsObjectPtr const& member = members[top.next];
+    if (!member || !member->typeof(igsGroup::type()) || on_path(path, member.operator->())) {
+      top.members.append(member);
+      ++top.next;
+    } else if (done == member.operator->()) {
+      for (igsObjectPtr const& inner : static_cast<igsCompound&>(*member).m_entities.members())
+        top.members.append(inner);
+      top.nested = 1;
+      done = nullptr;
+      ++top.next;
+    } else {
+      auto* group = static_cast<igsCompound*>(member.operator->());
+      path.insert(group);
+      stack.push_back({group});
+    }
   }
-  path.pop_back();
 }
 
 int igsCompound::count_142() const {
-  std::vector<igsCompound const*> path;
-  return count_142(path);
-}
-
-int igsCompound::count_142(std::vector<igsCompound const*>& path) const {
-  path.push_back(this);
+  struct Frame {
+    igsCompound const* compound;
+    int next = 0;
+  };
+  std::vector<Frame> stack{{this}};
+  Path path{this};
   int count = 0;
-  for (igsObjectPtr const& member : m_entities.members()) {
+  while (!stack.empty()) {
+    Frame& top = stack.back();
+    auto const& members = top.compound->m_entities.members();
+    if (top.next == members.size()) {
+      path.erase(top.compound);
+      stack.pop_back();
+      continue;
+    }
+    igsObjectPtr const& member = members[top.next++];
     if (!member) continue;
     igsObject const* inner = member.operator->();
     if (member->typeof(igs142::type())) {
@@ -105,9 +133,11 @@ int igsCompound::count_142(std::vector<igsCompound const*>& path) const {
       inner = static_cast<igs408 const&>(*member).get_subfigure().operator->();
     if (!inner || on_path(path, inner)) continue;
     if (inner->typeof(igsGroup::type()) ||
-        (inner != member.operator->() && inner->typeof(igs308::type())))
-      count += static_cast<igsCompound const*>(inner)->count_142(path);
+        (inner != member.operator->() && inner->typeof(igs308::type()))) {
+      auto const* compound = static_cast<igsCompound const*>(inner);
+      path.insert(compound);
+      stack.push_back({compound});
+    }
   }
-  path.pop_back();
   return count;
 }

@@ -92,4 +92,17 @@ TEST(CompoundFlattening, CurvesOnSurfacesAreCountedThroughGroupsAndSubfigures) {
   EXPECT_EQ(members(1), (std::vector<int>{1, 3, 1}));
 }
 
+// Groups nested far deeper than a call stack could follow, a curve at the bottom.
+TEST(CompoundFlattening, GroupsNestedAHundredThousandDeep) {
+  int const depth = 100000;
+  Records chain;
+  for (int i = 1; i < depth; ++i)
+    chain.push_back({402, 7, "402,1," + std::to_string(2 * i + 1) + ";"});
+  chain.push_back({142, 0, "142,1,0,0,0,0;"});
+  auto file = read(chain);
+  EXPECT_EQ(compound(1).count_142(), 1);
+  compound(1).flatten_groups();
+  EXPECT_EQ(members(1), std::vector<int>{2 * depth - 1});
+}
+
 } // namespace

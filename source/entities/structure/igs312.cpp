@@ -41,10 +41,11 @@ int igs312::read_pd_data(igsInStream& in) {
   return 1;
 }
 
-// A font definition is written as minus its DE number.
+// A font definition is written as minus its DE number. A word whose definition is gone (deleted
+// by a repair) has code 0, which a reader ignores, keeping the standard font 1: 1 is written.
 void igs312::write_pd_data(igsOutStream& out) {
   igsObjectPtr const& font = m_word.font_definition_entity();
-  int font_code = font ? -font->de_number() : m_word.font_code();
+  int font_code = font ? -font->de_number() : m_word.font_code() ? m_word.font_code() : 1;
   igs_write_fields(out, m_word.box_length(), m_word.box_height(), font_code,
                    m_word.slant_angle().angle(giAngleRadiansTag),
                    m_word.rotation_angle().angle(giAngleRadiansTag), m_word.mirror_status(),

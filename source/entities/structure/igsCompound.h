@@ -191,8 +191,6 @@ class igsCompound : public igsObject {
  private:
   // Replaces the list by the new members.
   void set_entities(igsObjectPtrcoDynArr const& members);
-  void flatten_groups(std::vector<igsCompound const*>& path);
-  int count_142(std::vector<igsCompound const*>& path) const;
 };
 
 // Whether at least two active object errors of the class `kind`, or derived from it, stand

@@ -1,6 +1,6 @@
 // The line font, text font, text template, colour, name and external reference classes as
 // their accessors give their parameters, for the corpus test; and the colour, line font and
-// level of every entity of every real file through read, clean(0) and write.
+// level and name of every entity of every real file through read, clean(0) and write.
 #include "core/roundTripCheck.h"
 #include "entities/entityFamily.h"
 #include "entities/structure/igs304_1.h"
@@ -76,25 +76,33 @@ std::string attribute_text(igsDefinitionValue const& v) {
   if (v.definition()) return definition_text(*v.definition());
   return v.value() < 0 ? "gone" : std::to_string(v.value());
 }
+// A label without the blanks around it, then its subscript.
+std::string name_text(std::string_view label, int subscript) {
+  size_t const first = label.find_first_not_of(' ');
+  label = first == label.npos ? "" : label.substr(first, label.find_last_not_of(' ') + 1 - first);
+  return std::string(label) + "(" + std::to_string(subscript) + ")";
+}
 std::string attributes_of(igsObject const& e) {
   igsDirectoryEntry const& de = e.directory_entry();
   return "font " + attribute_text(de.line_font()) + ", level " + attribute_text(de.level()) +
-         ", colour " + attribute_text(de.colour());
+         ", colour " + attribute_text(de.colour()) + ", name " +
+         name_text(de.entity_label().view(), de.entity_subscript());
 }
 
-// The same from the D lines of the file (line font, level, colour); a negative field names the
-// definition that the file holds at that DE number, if any.
+// The same from the D lines of the file (line font, level, colour, label and subscript); a
+// negative field names the definition that the file holds at that DE number, if any.
 std::string attributes_of(std::vector<std::string> const& d_lines, int de) {
-  auto field = [&](int line, int index) {
-    return std::atoi(d_lines[static_cast<size_t>(de - 1 + line)].substr(8 * index, 8).c_str());
+  auto column = [&](int line, int index) {
+    return d_lines[static_cast<size_t>(de - 1 + line)].substr(8 * index, 8);
   };
+  auto field = [&](int line, int index) { return std::atoi(column(line, index).c_str()); };
   auto text = [](int value) {
     igsObjectPtr target(value < 0 ? -value : 0);
     if (value >= 0 || !target) return value >= 0 ? std::to_string(value) : "gone";
     return definition_text(*target);
   };
   return "font " + text(field(0, 3)) + ", level " + text(field(0, 4)) + ", colour " +
-         text(field(1, 2));
+         text(field(1, 2)) + ", name " + name_text(column(1, 7), field(1, 8));
 }
 
 // What a check finds valid no repair may change: its text, else empty.
@@ -106,7 +114,7 @@ std::string valid_attributes_of(igsObject const& e) {
   return attributes_of(e);
 }
 
-TEST(AttributesCorpus, EveryColourLineFontAndLevelSurvivesReadRepairAndWrite) {
+TEST(AttributesCorpus, EveryColourLineFontLevelAndNameSurvivesReadRepairAndWrite) {
   IGS_REQUIRE_CORPUS(files);
   int entities = 0;
   for (auto const& path : files) {
