@@ -42,12 +42,15 @@ std::vector<std::string> logged_errors() {
   return texts;
 }
 
-// Checks the file, current while it is checked, and gives its active errors.
+} // namespace
+
 std::vector<std::string> checked(igsFile const& file) {
   igsCurrentFileScope current(file);
   file.check();
   return logged_errors();
 }
+
+namespace {
 
 struct ReadFile {
   std::unique_ptr<igsFile> file = std::make_unique<igsFile>();

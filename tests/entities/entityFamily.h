@@ -92,6 +92,9 @@ struct CorpusRows {
 // Compares the text with the fixture file, or writes the file under IGS_UPDATE_FIXTURES.
 void expect_fixture(std::filesystem::path const& path, std::string const& text);
 
+// Checks the file, current while it is checked, and gives its active errors, sorted.
+std::vector<std::string> checked(igsFile const& file);
+
 // The class that the entity table registers for a type and form; empty while none is.
 std::string registered_class(int type, int form);
 
