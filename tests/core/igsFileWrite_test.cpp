@@ -21,25 +21,6 @@ namespace {
 
 namespace fs = std::filesystem;
 
-// A Global section with fixed dates, so that a written file does not depend on today.
-void set_fixed_global_section(igsFile& file) {
-  igsGlobalSection global;
-  global.set_product_id_from_sending_system("igs test");
-  global.set_file_name("small.igs");
-  global.set_binary_bits_for_int(32);
-  global.set_sp_max_pow10(38);
-  global.set_sp_sig_digs(6);
-  global.set_dp_max_pow10(308);
-  global.set_dp_sig_digs(15);
-  global.set_units(igsUnits(utString("MM"), igsUnitMillimeter));
-  global.set_file_creation_date(igsDate(utString("20240102.030405")));
-  global.set_file_modification_date(igsDate(utString("20240102.030405")));
-  global.set_minimum_resolution(0.001);
-  global.set_max_coord_value(100.0);
-  global.set_iges_version(11);
-  file.set_global_section(global);
-}
-
 using igs_output_test::FailingBuf;
 using igs_output_test::KeyOverride;
 

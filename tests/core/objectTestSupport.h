@@ -9,7 +9,10 @@
 #include "core/igsObjectSystem.h"
 #include "errors/igsErrorClass.h"
 #include "errors/igsErrorLog.h"
+#include "sections/igsDate.h"
 #include "sections/igsDirectoryEntry.h"
+#include "sections/igsGlobalSection.h"
+#include "sections/igsUnits.h"
 
 #include <gtest/gtest.h>
 
@@ -97,6 +100,25 @@ class testFile : public igsFile {
   using igsFile::remove_forward_references;
   using igsFile::set_pathname;
 };
+
+// A Global section with fixed dates, so that a written file does not depend on today.
+inline void set_fixed_global_section(igsFile& file) {
+  igsGlobalSection global;
+  global.set_product_id_from_sending_system("igs test");
+  global.set_file_name("small.igs");
+  global.set_binary_bits_for_int(32);
+  global.set_sp_max_pow10(38);
+  global.set_sp_sig_digs(6);
+  global.set_dp_max_pow10(308);
+  global.set_dp_sig_digs(15);
+  global.set_units(igsUnits(utString("MM"), igsUnitMillimeter));
+  global.set_file_creation_date(igsDate(utString("20240102.030405")));
+  global.set_file_modification_date(igsDate(utString("20240102.030405")));
+  global.set_minimum_resolution(0.001);
+  global.set_max_coord_value(100.0);
+  global.set_iges_version(11);
+  file.set_global_section(global);
+}
 
 // Each test works on a file of its own, current while the test runs.
 class FileTest : public ::testing::Test {

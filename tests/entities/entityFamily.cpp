@@ -42,12 +42,15 @@ std::vector<std::string> logged_errors() {
   return texts;
 }
 
-// Checks the file, current while it is checked, and gives its active errors.
+} // namespace
+
 std::vector<std::string> checked(igsFile const& file) {
   igsCurrentFileScope current(file);
   file.check();
   return logged_errors();
 }
+
+namespace {
 
 struct ReadFile {
   std::unique_ptr<igsFile> file = std::make_unique<igsFile>();
@@ -70,6 +73,14 @@ std::string printed(igsFile const& file) {
   return text.str();
 }
 
+std::string faults_text(std::vector<std::string> const& faults) {
+  std::string text;
+  for (auto const& f : faults) text += f + "\n";
+  return text;
+}
+
+} // namespace
+
 // Compares the text with the fixture file, or writes the file under IGS_UPDATE_FIXTURES.
 void expect_fixture(std::filesystem::path const& path, std::string const& text) {
   if (char const* update = std::getenv("IGS_UPDATE_FIXTURES"); update && *update == '1') {
@@ -80,14 +91,6 @@ void expect_fixture(std::filesystem::path const& path, std::string const& text) 
                                              << " differs; IGS_UPDATE_FIXTURES=1 "
                                                 "writes it anew";
 }
-
-std::string faults_text(std::vector<std::string> const& faults) {
-  std::string text;
-  for (auto const& f : faults) text += f + "\n";
-  return text;
-}
-
-} // namespace
 
 std::string registered_class(int type, int form) {
   struct Registration {

@@ -30,6 +30,7 @@
 #include <gtest/gtest.h>
 
 #include <algorithm>
+#include <filesystem>
 #include <functional>
 #include <string>
 #include <vector>
@@ -87,6 +88,12 @@ struct CorpusRows {
     corpus_rows().insert(corpus_rows().end(), rows.begin(), rows.end());
   }
 };
+
+// Compares the text with the fixture file, or writes the file under IGS_UPDATE_FIXTURES.
+void expect_fixture(std::filesystem::path const& path, std::string const& text);
+
+// Checks the file, current while it is checked, and gives its active errors, sorted.
+std::vector<std::string> checked(igsFile const& file);
 
 // The class that the entity table registers for a type and form; empty while none is.
 std::string registered_class(int type, int form);

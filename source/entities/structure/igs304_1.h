@@ -12,12 +12,12 @@ class igs304_1 : public igsStructure {
   int orientation() const { return m_orientation; }
   double spacing() const { return m_spacing; }
   double scale() const { return m_scale; }
-
- protected:
   void set_orientation(int orientation) { m_orientation = orientation; }
   void set_subfigure(igsObjectPtr const& subfigure) { m_subfigure = subfigure; }
   void set_spacing(double spacing) { m_spacing = spacing; }
   void set_scale(double scale) { m_scale = scale; }
+
+ protected:
   void unreference_children() override;
 
  private:

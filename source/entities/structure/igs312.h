@@ -18,8 +18,6 @@ class igs312 : public igsStructure {
   // 1 makes the template incremental; any other number leaves it. The DE form follows the
   // flag.
   void set_form_number(int form);
-
- protected:
   void set_box_dimensions(double length, double height) {
     m_word.set_box_dimensions(length, height);
   }
@@ -29,6 +27,8 @@ class igs312 : public igsStructure {
   void set_text_appearance(igsMirror_Status mirror, igsAlignment_Status alignment) {
     m_word.set_text_appearance(mirror, alignment);
   }
+
+ protected:
   void unreference_children() override;
 
  private:
