@@ -36,7 +36,7 @@ TEST(Readme, LibraryExampleReadsRepairsWalksAndWrites) {
     std::ofstream out(written, std::ios::binary);
     EXPECT_TRUE(file.write(out, messages)); // 80-column lines, renumbered
   }
-  EXPECT_EQ(lines, 4);
+  EXPECT_EQ(lines, 16); // the outline's and the solid's edges
   EXPECT_EQ(report.str(), "");
   EXPECT_EQ(igs_test::read_file(written),
             igs_test::read_file(igs_test::source_dir() / "examples" / "bracket.igs"));
