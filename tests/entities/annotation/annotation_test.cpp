@@ -132,13 +132,13 @@ Damage const damages[] = {
       "@1 igs212InvalidString(index=1,text=)"}},
     {"a mirror flag mended keeps a vertical text, an alignment flag mended a mirrored one",
      {solid(212, 0,
-            "212,2,1,1.,1.,1,1.5707963267949,0.,-1,1,0.,0.,0.,1HA,1,1.,1.,1,1.5707963267949,0.,2,"
+            "212,2,1,1.,1.,1,1.5707963267949,0.,-1,1,0.,0.,0.,1HA,1,1.,1.,1,1.5707963267949,0.,1,"
             "5,0.,0.,0.,1HB;")},
      {"@1 igs212InvalidTextAlignmentFlag(index=1,flag=5)",
       "@1 igs212InvalidTextMirrorFlag(index=0,flag=-1)"},
      {},
      {},
-     "212,2,1,1.,1.,1,1.5707963267949,0.,0,1,0.,0.,0.,1HA,1,1.,1.,1,1.5707963267949,0.,2,0,0.,"
+     "212,2,1,1.,1.,1,1.5707963267949,0.,0,1,0.,0.,0.,1HA,1,1.,1.,1,1.5707963267949,0.,1,0,0.,"
      "0.,0.,1HB;"},
     {"a text of the double-byte font whose length is no multiple of 4 gets font 1",
      {solid(212, 0, "212,1,3,1.,1.,2001,1.5707963267949,0.,0,0,0.,0.,0.,3HABC;")},
