@@ -72,6 +72,7 @@ std::vector<LineCase> const line_cases = {
     {"lone CR behind a whole record",
      s1 + "\rS      2\nS      3\n",
      {s1, record('S', 3, "S      2")}},
+    {"one column behind a whole record", s1 + "x\nS      2\n", {s1, record('S', 2, "x")}},
     {"CR in a line that is cut: nothing is lost",
      repeat('A', 100) + "\r" + repeat('B', 10) + "\nS      1\n",
      {repeat('A', 80), record('S', 1, repeat('A', 20) + repeat('B', 10))}},

@@ -456,6 +456,11 @@ TEST_F(AnnotationSetters, FormsCurvesAndPatterns) {
   associativity->add_geometry(first, 0);
   associativity->set_num_objects(0);
   EXPECT_FALSE(associativity->get_geometry(0));
+  // A leader's segment past its last is none.
+  auto* leader = new igs214;
+  leader->set_num_segments(1);
+  leader->add_segment(giPoint2(1, 1), 0);
+  EXPECT_TRUE(leader->segment_endpoint(1).invalid());
 
   auto* area = new igs230;
   area->set_point(1.0, 2.0);
