@@ -114,6 +114,11 @@ struct Reals {
   }
 };
 
+// The Global section of every generated file, in two lines of at most 72 columns.
+char const* const global_lines[2] = {
+    "1H,,1H;,4HBNCH,8Hbench.igs,3HGEN,3H1.0,32,38,6,308,15,4HBNCH,1.,2,2HMM,",
+    "1,1.,15H20240101.000000,1.E-06,1000.,4HNONE,4HNONE,11,0;"};
+
 // A pointer field to the DE number, behind its comma.
 std::string pointer_field(int de) {
   return std::string(",").append(std::to_string(de));
@@ -161,9 +166,8 @@ Generated generate(std::size_t at_least) {
     ++g.entities;
   }
   g.text = record("Generated for the reading benchmark.", 'S', 1);
-  g.text +=
-      record("1H,,1H;,4HBNCH,8Hbench.igs,3HGEN,3H1.0,32,38,6,308,15,4HBNCH,1.,2,2HMM,1,", 'G', 1);
-  g.text += record("1.,15H20240101.000000,1.E-06,1000.,4HNONE,4HNONE,11,0;", 'G', 2);
+  g.text += record(global_lines[0], 'G', 1);
+  g.text += record(global_lines[1], 'G', 2);
   g.text += d;
   g.text += p;
   g.text += record("S" + number(1, 7) + "G" + number(2, 7) + "D" + number(d_line, 7) + "P" +
@@ -307,9 +311,8 @@ struct RecordText {
     Generated g;
     g.entities = entities;
     g.text = line("Generated for the reading benchmark.", 'S', 1);
-    g.text +=
-        line("1H,,1H;,4HBNCH,8Hbench.igs,3HGEN,3H1.0,32,38,6,308,15,4HBNCH,1.,2,2HMM,1,", 'G', 1);
-    g.text += line("1.,15H20240101.000000,1.E-06,1000.,4HNONE,4HNONE,11,0;", 'G', 2);
+    g.text += line(global_lines[0], 'G', 1);
+    g.text += line(global_lines[1], 'G', 2);
     g.text += d + p;
     g.text += line("S" + number(1, 7) + "G" + number(2, 7) + "D" + number(2 * entities, 7) + "P" +
                        number(p_line, 7),
