@@ -2,7 +2,9 @@
 // into one level, and the count of curves on surfaces, with a group that holds itself.
 #include "core/roundTripCheck.h"
 #include "entities/entityFamily.h"
+#include "entities/solids/igs186.h"
 #include "entities/solids/igs510.h"
+#include "entities/structure/igs402_7.h"
 #include "entities/structure/igsCompound.h"
 
 using namespace igs_family_test;
@@ -45,6 +47,28 @@ TEST(CompoundFlattening, ASolidGivesWayToItsFacesWhichLearnTheirSolidAndSide) {
   // Without solids nothing changes.
   compound(1).explode_solids();
   EXPECT_EQ(members(1), (std::vector<int>{3, 9, 11, 13}));
+}
+
+// The sample part's solid in a group of its own: the group takes its six faces, and the file
+// still checks clean and reads back.
+TEST(CompoundFlattening, TheSamplesSolidExplodedChecksCleanAndReadsBack) {
+  int result = 0;
+  auto file = igs_test::read_text(
+      igs_test::read_file(igs_test::source_dir() / "examples/bracket.igs"), result);
+  ASSERT_EQ(result, 1);
+  auto* group = new igs402_7;
+  for (igsFileIT it(file.get()); ++it;) {
+    if (!it()->isa(igs186::type())) continue;
+    group->set_number_of_entities(1);
+    group->set_entity(0, igsObjectPtr(it()));
+  }
+  group->explode_solids();
+  EXPECT_EQ(group->number_of_entities(), 6);
+  file->check();
+  for (igsFileIT it(file.get()); ++it;)
+    EXPECT_EQ(it()->num_logged_errors(), 0) << it()->de_number();
+  auto faults = igs_test::round_trip_faults(*file, "exploded");
+  EXPECT_TRUE(faults.empty()) << faults.front();
 }
 
 // DE 1 holds the group at DE 3 and a point; DE 3 the group at DE 7 and the same point.
