@@ -30,11 +30,11 @@ void igsFile::object_created(igsObject* object) {
     manager = *waiting;
     m_forward_references.remove(location);
   } else {
-    manager = new (std::nothrow) igsObjectManager;
+    manager = m_managers.make();
     if (!manager) return;
     ++m_manager_count;
   }
-  igsDirectoryEntry* de = new (std::nothrow) igsDirectoryEntry;
+  igsDirectoryEntry* de = m_directory_entries.make();
   if (!de) {
     m_forward_references[location] = manager;
     return;
@@ -58,8 +58,8 @@ void igsFile::object_deleted(igsObject* object) {
   --m_num_entities;
   igsDirectoryEntry* de = manager->directory_entry();
   object->set_manager(nullptr);
-  delete manager; // nulls every reference to the entity
-  delete de;
+  m_managers.destroy(manager); // nulls every reference to the entity
+  m_directory_entries.destroy(de);
 }
 
 void igsFile::ptr_created(igsObjectPtr* ptr, int location) {
@@ -67,7 +67,7 @@ void igsFile::ptr_created(igsObjectPtr* ptr, int location) {
     manager->add_pointer(ptr);
   } else if (igsObjectManager** waiting = m_forward_references.read(location)) {
     (*waiting)->add_pointer(ptr);
-  } else if (igsObjectManager* placeholder = new (std::nothrow) igsObjectManager) {
+  } else if (igsObjectManager* placeholder = m_managers.make()) {
     placeholder->set_file(this);
     placeholder->set_system_location(location);
     placeholder->add_pointer(ptr);
@@ -78,7 +78,7 @@ void igsFile::ptr_created(igsObjectPtr* ptr, int location) {
 
 void igsFile::remove_forward_references() {
   for (auto& [location, placeholder] : m_forward_references) {
-    delete placeholder;
+    m_managers.destroy(placeholder);
     --m_manager_count;
   }
   m_forward_references.clear();

@@ -6,6 +6,7 @@
 #include "sections/igsGlobalSection.h"
 #include "sections/igsStartSection.h"
 #include "sections/igsTerminateSection.h"
+#include "support/coPool.h"
 #include "support/kvnabs.h"
 #include "support/kvuTypeInfo.h"
 #include "support/utOstream.h"
@@ -150,6 +151,10 @@ class igsFile {
   igsStartSection m_start_section{this};
   igsGlobalSection m_global_section{this};
   igsTerminateSection m_terminate_section{this};
+  // The managers and Directory Entries of the entities, drawn from pools of the file: a read
+  // makes a few large allocations for them rather than two small ones per entity.
+  coPool<igsObjectManager> m_managers;
+  coPool<igsDirectoryEntry> m_directory_entries;
   igsObjectManagerPtrcoPageArr m_table;
   intcoStack m_free_slots;
   intigsObjectManagerPtrcoTable m_forward_references;
