@@ -58,7 +58,8 @@ template <class T> class coPool {
   // Chunks double from 64 slots up to 4096, so a small file pays little and a large one
   // makes few allocations.
   int grow() {
-    std::size_t count = m_chunks.empty() ? 64 : std::min<std::size_t>(4096, 2 * m_chunks.back().count);
+    std::size_t count =
+        m_chunks.empty() ? 64 : std::min<std::size_t>(4096, 2 * m_chunks.back().count);
     Chunk chunk{std::unique_ptr<Slot[]>(new (std::nothrow) Slot[count]), count};
     if (!chunk.slots) return 0;
     try {
