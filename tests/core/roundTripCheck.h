@@ -122,13 +122,17 @@ inline std::string print_difference(std::string const& a, std::string const& b) 
   return "";
 }
 
+// The text without the blanks around it.
+inline std::string_view trimmed(std::string_view text) {
+  size_t first = text.find_first_not_of(' ');
+  if (first == std::string_view::npos) return {};
+  return text.substr(first, text.find_last_not_of(' ') + 1 - first);
+}
+
 // The fields with the label's blanks cut: the label stands right-justified in its columns
 // and reads back with the blanks before it.
 inline igsDirectoryFields label_trimmed(igsDirectoryFields fields) {
-  std::string_view label = fields.entity_label.view();
-  size_t first = label.find_first_not_of(' ');
-  label = first == std::string_view::npos ? std::string_view() : label.substr(first);
-  fields.entity_label = utString(std::string(label.substr(0, label.find_last_not_of(' ') + 1)));
+  fields.entity_label = utString(std::string(trimmed(fields.entity_label.view())));
   return fields;
 }
 

@@ -150,7 +150,7 @@ TEST_F(GlobalSectionTest, DelimitersAreTheHollerithCharacterOrTheDefaults) {
       {"1H||1H#|4HPART#", 1, '|', '#', ""},
       {"1H;;1H,;4HPART;;6HSender,", 1, ';', ',', ""}, // the two swapped
       {"1H|,1H;,", 0, ',', ';', ""},                  // the character behind must be the delimiter
-      {"1X,,1H;;", 0, ',', ';', ""}, // a count of 1 with no H
+      {"1X,,1H;;", 0, ',', ';', ""},                  // a count of 1 with no H
       // A record delimiter of two characters cannot end a record: the defaults stand.
       {"1H||2H;#|", 0, ',', ';', ""},
       {"1H;;2H,;", 0, ',', ';', ""},

@@ -78,9 +78,7 @@ std::string attribute_text(igsDefinitionValue const& v) {
 }
 // A label without the blanks around it, then its subscript.
 std::string name_text(std::string_view label, int subscript) {
-  size_t const first = label.find_first_not_of(' ');
-  label = first == label.npos ? "" : label.substr(first, label.find_last_not_of(' ') + 1 - first);
-  return std::string(label) + "(" + std::to_string(subscript) + ")";
+  return std::string(igs_test::trimmed(label)) + "(" + std::to_string(subscript) + ")";
 }
 std::string attributes_of(igsObject const& e) {
   igsDirectoryEntry const& de = e.directory_entry();
