@@ -58,14 +58,15 @@ class igsObjectManager {
   void move_pointer(int location, igsObjectPtr* ptr);
   int grow();
 
-  int m_visited = 0;
-  int m_validated = 0;
+  // The fields of eight bytes first, then those of four, so that no padding parts them.
   igsObject* m_object = nullptr;
   igsDirectoryEntry* m_directory_entry = nullptr;
   igsFile* m_file = nullptr;
-  int m_system_location = -1;
   Slot m_inline[2] = {};
   Slot* m_slots = m_inline;
+  int m_visited = 0;
+  int m_validated = 0;
+  int m_system_location = -1;
   int m_size = 0;
   int m_capacity = 2;
   int m_increment = 2;

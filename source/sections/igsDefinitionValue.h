@@ -52,6 +52,7 @@ class igsDefinitionValue {
   utString definition_name() const;
 
  private:
-  igsObjectPtr m_definition;
+  // The value stands in the reference's tail padding: a Directory Entry holds three of these.
+  [[no_unique_address]] igsObjectPtr m_definition;
   int m_value;
 };

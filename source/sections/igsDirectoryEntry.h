@@ -140,20 +140,20 @@ class igsDirectoryEntry {
   static utString const& no_label();
   void set_parameter_line_count(int count) { m_parameter_line_count = count; }
 
-  // The fields of four bytes stand together, so that no padding parts them: a file holds one
-  // entry per entity.
+  // A file holds one entry per entity, so no byte is left as padding: each reference leaves
+  // four bytes behind its two fields, where a number of four bytes stands.
   igsLineFont m_line_font;
   igsLevel m_level;
-  igsObjectPtr m_view;
-  igsObjectPtr m_matrix;
-  igsObjectPtr m_label_display;
   igsColour m_colour;
+  [[no_unique_address]] igsObjectPtr m_view;
+  int m_structure = 0;
+  [[no_unique_address]] igsObjectPtr m_matrix;
+  int m_line_weight_number = 0;
+  [[no_unique_address]] igsObjectPtr m_label_display;
+  int m_form_number = 0;
   utString m_entity_label = no_label();
   igsObjectManager* m_manager = nullptr;
   igsStatusFlags m_status_flags;
-  int m_structure = 0;
-  int m_line_weight_number = 0;
-  int m_form_number = 0;
   int m_entity_subscript = 0;
   igsEntityType m_entity_type = igsEntityTypeUnknown;
   int m_parameter_line_count = 0;
