@@ -91,17 +91,10 @@ int leading_blanks(char const* text, int width) {
   return i;
 }
 
-// A number field in its usual form, read straight from the line: blanks, then an optional
-// sign and digits up to its last column, or blanks alone. Both give what the fixed-width read
-// gives them (0 for blanks), without its machinery; 0 is returned for any other field, and
-// for one that does not lie within the data of an unstopped D line.
-int read_plain_number(igsInStream& in, int width, int& value) {
-  igsFileSection section;
-  int line = 0;
-  int column = 0;
-  in.position(section, line, column);
-  if (in.frozen() || section != igsSectionDirectory || column + width > in.capacity() - 8) return 0;
-  char const* text = in();
+// A number field in its usual form, from its text: blanks, then an optional sign and digits up
+// to its last column, or blanks alone. Both give what the fixed-width read gives them (0 for
+// blanks), without its machinery; 0 is returned for any other field.
+int plain_number(char const* text, int width, int& value) {
   int i = leading_blanks(text, width);
   int number = 0; // 8 columns hold no more than 8 digits
   int negative = 0;
@@ -112,8 +105,29 @@ int read_plain_number(igsInStream& in, int width, int& value) {
     if (i < width || i == first_digit) return 0;
   }
   value = negative ? -number : number;
-  in.pass_over(static_cast<unsigned>(width));
   return 1;
+}
+
+// Reads number fields of the layout from `c` on, straight from the line, while each is plain
+// and lies within the data of an unstopped D line, and no further than `end`: the line is
+// tested once for them all, and the cursor passes over them in one move. Returns the first
+// field not read.
+Column const* read_plain_numbers(igsInStream& in, Column const* c, Column const* end,
+                                 Fields& fields) {
+  igsFileSection section;
+  int line = 0;
+  int column = 0;
+  in.position(section, line, column);
+  if (in.frozen() || section != igsSectionDirectory) return c;
+  char const* text = in();
+  int room = in.capacity() - 8 - column;
+  int used = 0;
+  for (; c != end && c->number && used + c->width <= room; ++c) {
+    if (!plain_number(text + used, c->width, fields.*c->number)) break;
+    used += c->width;
+  }
+  if (used) in.pass_over(static_cast<unsigned>(used));
+  return c;
 }
 
 } // namespace
@@ -123,15 +137,22 @@ int igsDirectoryFields::read(igsInStream& in, unsigned* line_codes) {
   int column;
   in.position(section, line, column);
   Column const* last = std::end(layout) - 1;
-  for (Column const& c : layout) {
-    if (&c == last && line_codes) {
+  for (Column const* c = layout; c != std::end(layout); ++c) {
+    if (c == last && line_codes) {
       *line_codes = 0;
       for (igsIOError const& e : in.errors()) *line_codes |= igsIOCodeList::bit(e.error_type());
     }
-    if (!c.number)
-      in.read_string(static_cast<unsigned>(c.width), this->*c.text);
-    else if (!line_codes || !read_plain_number(in, c.width, this->*c.number))
-      in.read_integer(static_cast<unsigned>(c.width), this->*c.number);
+    if (line_codes) {
+      Column const* next = read_plain_numbers(in, c, c == last ? std::end(layout) : last, *this);
+      if (next != c) {
+        c = next - 1;
+        continue;
+      }
+    }
+    if (!c->number)
+      in.read_string(static_cast<unsigned>(c->width), this->*c->text);
+    else
+      in.read_integer(static_cast<unsigned>(c->width), this->*c->number);
   }
   if (!line_codes) in.errors();
   return !in.fatal_error();
