@@ -348,17 +348,14 @@ Generated generate_solids(std::size_t at_least) {
     }
     std::string edge_list = ",12";
     for (int e = 0; e < 12; ++e)
-      edge_list += "," + std::to_string(line + 2 * e) + "," + std::to_string(vertices) + "," +
-                   std::to_string(ends[e][0] + 1) + "," + std::to_string(vertices) + "," +
-                   std::to_string(ends[e][1] + 1);
+      for (int field : {line + 2 * e, vertices, ends[e][0] + 1, vertices, ends[e][1] + 1})
+        edge_list.append(",").append(std::to_string(field));
     file.add(504, 1, edge_list);
     std::string corners = ",8";
-    for (int v = 0; v < 24; ++v) corners += "," + reals.next();
+    corners += reals.fields(24);
     file.add(502, 1, corners);
     for (int e = 0; e < 12; ++e) {
-      std::string points;
-      for (int c = 0; c < 6; ++c) points += "," + reals.next();
-      file.add(110, 0, points);
+      file.add(110, 0, reals.fields(6));
     }
   }
   return file.text();
@@ -392,7 +389,7 @@ Generated generate_structure(std::size_t at_least) {
     std::vector<int> points;
     for (int i = 0; i < 8; ++i)
       points.push_back(file.add(
-          116, 0, "," + reals.next() + "," + reals.next() + "," + reals.next() + ",0", matrix));
+          116, 0, reals.fields(3) + ",0", matrix));
     int group = file.add(402, 7, list(points));
     int planar = file.add(402, 16,
                           ",1,4," + std::to_string(matrix) +

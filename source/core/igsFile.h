@@ -6,6 +6,7 @@
 #include "sections/igsGlobalSection.h"
 #include "sections/igsStartSection.h"
 #include "sections/igsTerminateSection.h"
+#include "support/coArena.h"
 #include "support/coPool.h"
 #include "support/kvnabs.h"
 #include "support/kvuTypeInfo.h"
@@ -155,6 +156,8 @@ class igsFile {
   // makes a few large allocations for them rather than two small ones per entity.
   coPool<igsObjectManager> m_managers;
   coPool<igsDirectoryEntry> m_directory_entries;
+  // The memory of the entities made while the file is current, in blocks of their sizes.
+  coArena m_object_memory;
   igsObjectManagerPtrcoPageArr m_table;
   intcoStack m_free_slots;
   intigsObjectManagerPtrcoTable m_forward_references;

@@ -6,6 +6,8 @@
 #include "errors/igsErrorLog.h"
 #include "sections/igsDirectoryEntry.h"
 
+#include <utility>
+
 KVU_DEFINE_TYPE(igsObject)
 
 igsObject::igsObject() {
@@ -14,7 +16,25 @@ igsObject::igsObject() {
 }
 
 igsObject::~igsObject() {
-  if (m_manager) m_manager->file()->object_deleted(this);
+  igsFile* file = m_manager ? m_manager->file() : nullptr;
+  if (file) file->object_deleted(this);
+  s_memory_owner = file;
+}
+
+void* igsObject::operator new(std::size_t size) noexcept {
+  igsObjectSystem::initialize_system();
+  return igsObjectSystem::file().m_object_memory.take(size);
+}
+
+void* igsObject::operator new(std::size_t size, std::nothrow_t const&) noexcept {
+  return operator new(size);
+}
+
+// An entity that never joined its file (no manager could be had) leaves its block unused
+// until the file goes.
+void igsObject::operator delete(void* memory, std::size_t size) noexcept {
+  if (igsFile* owner = std::exchange(s_memory_owner, nullptr))
+    owner->m_object_memory.give(memory, size);
 }
 
 utString const& igsObject::name() const {

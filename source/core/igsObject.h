@@ -24,6 +24,12 @@ class igsObject {
  public:
   virtual ~igsObject();
   igsObject(igsObject const&) = delete;
+  // An entity's memory comes from the file that is current when it is made and goes back to
+  // that file when it is deleted: a read makes a few large allocations for its entities, not
+  // one per entity. Null when no memory could be had.
+  static void* operator new(std::size_t size) noexcept;
+  static void* operator new(std::size_t size, std::nothrow_t const&) noexcept;
+  static void operator delete(void* memory, std::size_t size) noexcept;
   igsObject& operator=(igsObject const&) = delete;
 
   // Checks the entity once per walk; 1 when it has no logged errors afterwards.
@@ -101,6 +107,10 @@ class igsObject {
   friend class igsObjectPtr;
   igsObjectManager* manager() const { return m_manager; }
   void set_manager(igsObjectManager* manager) { m_manager = manager; }
+
+  // The file whose memory the entity deleted last had: its destructor leaves it for the
+  // operator delete that follows at once.
+  static inline igsFile* s_memory_owner = nullptr;
 
   igsObjectManager* m_manager = nullptr;
 };

@@ -21,6 +21,20 @@
 #include <sanitizer/asan_interface.h>
 #endif
 
+// Memory that is free is out of bounds for the address sanitizer, so a use after it was given
+// back is found as it would be with the heap; without the sanitizer these do nothing.
+inline void co_pool_poison([[maybe_unused]] void const* memory, [[maybe_unused]] std::size_t size) {
+#ifdef CO_POOL_ASAN
+  ASAN_POISON_MEMORY_REGION(memory, size);
+#endif
+}
+inline void co_pool_unpoison([[maybe_unused]] void const* memory,
+                             [[maybe_unused]] std::size_t size) {
+#ifdef CO_POOL_ASAN
+  ASAN_UNPOISON_MEMORY_REGION(memory, size);
+#endif
+}
+
 template <class T> class coPool {
  public:
   coPool() = default;
@@ -75,18 +89,9 @@ template <class T> class coPool {
     for (std::size_t i = 0; i < count; ++i) poison(&slots[i]);
     return 1;
   }
-  // Free slots are out of bounds for the address sanitizer, so a use after destroy is found
-  // as it would be with the heap; the link to the next free slot is read through unpoison.
-  static void poison([[maybe_unused]] Slot* slot) {
-#ifdef CO_POOL_ASAN
-    ASAN_POISON_MEMORY_REGION(slot, sizeof(Slot));
-#endif
-  }
-  static void unpoison([[maybe_unused]] Slot* slot) {
-#ifdef CO_POOL_ASAN
-    ASAN_UNPOISON_MEMORY_REGION(slot, sizeof(Slot));
-#endif
-  }
+  // Free slots are poisoned; the link to the next free slot is read through unpoison.
+  static void poison(Slot* slot) { co_pool_poison(slot, sizeof(Slot)); }
+  static void unpoison(Slot* slot) { co_pool_unpoison(slot, sizeof(Slot)); }
 
   struct Chunk {
     std::unique_ptr<Slot[]> slots;
