@@ -387,9 +387,7 @@ Generated generate_structure(std::size_t at_least) {
                               ",0.,0.,1.," + reals.next());
     file.add(123, 0, ",0.6,0.,0.8");
     std::vector<int> points;
-    for (int i = 0; i < 8; ++i)
-      points.push_back(file.add(
-          116, 0, reals.fields(3) + ",0", matrix));
+    for (int i = 0; i < 8; ++i) points.push_back(file.add(116, 0, reals.fields(3) + ",0", matrix));
     int group = file.add(402, 7, list(points));
     int planar = file.add(402, 16,
                           ",1,4," + std::to_string(matrix) +

@@ -56,7 +56,9 @@ class igsStatusFlags {
   enum Flag { blank_flag, subordinate_flag, use_flag, hierarchy_flag, flag_count };
   char const* name(Flag flag) const;
   static std::int8_t byte(int value) {
-    return static_cast<std::int8_t>(value < INT8_MIN ? INT8_MIN : value > INT8_MAX ? INT8_MAX : value);
+    return static_cast<std::int8_t>(value < INT8_MIN   ? INT8_MIN
+                                    : value > INT8_MAX ? INT8_MAX
+                                                       : value);
   }
 
   std::int8_t m_values[flag_count] = {};

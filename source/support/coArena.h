@@ -66,7 +66,8 @@ class coArena {
   // Chunks double from 4 kB up to 64 kB, so a small file pays little and a large one makes few
   // allocations. The rest of the last chunk is left unused.
   int grow() {
-    std::size_t size = m_chunks.empty() ? 4096 : std::min<std::size_t>(65536, 2 * m_chunks.back().size);
+    std::size_t size =
+        m_chunks.empty() ? 4096 : std::min<std::size_t>(65536, 2 * m_chunks.back().size);
     Chunk chunk{std::unique_ptr<unsigned char[]>(new (std::nothrow) unsigned char[size]), size};
     if (!chunk.bytes) return 0;
     try {
