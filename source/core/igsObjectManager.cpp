@@ -24,7 +24,7 @@ void igsObjectManager::move_pointer(int location, igsObjectPtr* ptr) {
 
 // Grows the list by the increment; 0 if there was no memory.
 int igsObjectManager::grow() {
-  int capacity = m_capacity + m_increment;
+  int capacity = m_capacity + pointer_list_increment();
   Slot* slots = new (std::nothrow) Slot[static_cast<size_t>(capacity)];
   if (!slots) return 0;
   for (int i = 0; i < m_size; ++i) slots[i] = m_slots[i];
@@ -46,7 +46,8 @@ void igsObjectManager::add_pointer(igsObjectPtr* ptr) {
   ptr->set_manager(this);
   ptr->set_manager_location(location);
   ++m_num_references;
-  if (m_num_references > 8 * m_increment) m_increment *= 8;
+  // The increment stops growing at 2^28, so that 8 of it stays an int.
+  if (m_increment_power < 9 && m_num_references > 8 * pointer_list_increment()) ++m_increment_power;
 }
 
 void igsObjectManager::delete_pointer(igsObjectPtr* ptr) {

@@ -31,15 +31,15 @@ class igsObjectManager {
   int system_location() const { return m_system_location; }
   void set_system_location(int location) { m_system_location = location; }
   int visited() const { return m_visited; }
-  void set_visited(int visited) { m_visited = visited; }
+  void set_visited(int visited) { m_visited = visited != 0; }
   int validated() const { return m_validated; }
-  void set_validated(int validated) { m_validated = validated; }
+  void set_validated(int validated) { m_validated = validated != 0; }
   int num_references() const { return m_num_references; }
 
   // The reference list grows by a step that is multiplied by 8 whenever the number of
   // references passes 8 steps (2, 16, 128, ...), so heavily shared entities do not pay for
   // many small reallocations.
-  int pointer_list_increment() const { return m_increment; }
+  int pointer_list_increment() const { return 2 << (3 * m_increment_power); }
   int pointer_list_capacity() const { return m_capacity; }
 
  private:
@@ -58,20 +58,22 @@ class igsObjectManager {
   void move_pointer(int location, igsObjectPtr* ptr);
   int grow();
 
-  // The fields of eight bytes first, then those of four, so that no padding parts them.
+  // The fields of eight bytes first, then those of four, then the flags and the power of 8 of
+  // the increment in one byte each, so that no padding parts them: a file holds one manager
+  // per entity.
   igsObject* m_object = nullptr;
   igsDirectoryEntry* m_directory_entry = nullptr;
   igsFile* m_file = nullptr;
   Slot m_inline[2] = {};
   Slot* m_slots = m_inline;
-  int m_visited = 0;
-  int m_validated = 0;
   int m_system_location = -1;
   int m_size = 0;
   int m_capacity = 2;
-  int m_increment = 2;
   int m_first_hole = -1;
   int m_num_references = 0;
+  std::uint8_t m_visited = 0;
+  std::uint8_t m_validated = 0;
+  std::uint8_t m_increment_power = 0;
 };
 
 // Walks the live references of one manager.

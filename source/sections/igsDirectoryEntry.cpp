@@ -12,6 +12,7 @@
 #include <cstdint>
 #include <cstring>
 #include <iterator>
+#include <new>
 
 // The two D lines
 
@@ -239,16 +240,37 @@ int igsDirectoryEntry::set_status_flags(igsStatusFlags const& flags) {
   return 1;
 }
 
+igsDirectoryEntry::Links* igsDirectoryEntry::links() {
+  if (!m_links) m_links.reset(new (std::nothrow) Links);
+  return m_links.get();
+}
+
+igsObjectPtr const& igsDirectoryEntry::no_reference() {
+  static igsObjectPtr const none;
+  return none;
+}
+
 int igsDirectoryEntry::set_matrix(igsObjectPtr const& matrix) {
-  if (matrix && !matrix->isa(igs124::type())) return 0;
-  m_matrix = matrix;
+  if (!matrix) {
+    if (m_links) m_links->matrix = igsObjectPtr();
+    return 1;
+  }
+  if (!matrix->isa(igs124::type())) return 0;
+  Links* l = links();
+  if (!l) return 0;
+  l->matrix = matrix;
   return 1;
 }
 
 int igsDirectoryEntry::set_view(igsObjectPtr const& view) {
-  if (!view) return 0;
-  m_view = view;
+  Links* l = view ? links() : nullptr;
+  if (!l) return 0;
+  l->view = view;
   return 1;
+}
+
+void igsDirectoryEntry::set_label_display(igsObjectPtr const& label_display) {
+  if (Links* l = label_display || m_links ? links() : nullptr) l->label_display = label_display;
 }
 
 int igsDirectoryEntry::set_entity_label(utString const& label) {
@@ -280,9 +302,10 @@ void igsDirectoryEntry::become(igsDirectoryEntry const& other) {
   m_structure = other.m_structure;
   m_line_font.become(other.m_line_font);
   m_level.become(other.m_level);
-  m_view = other.m_view;
-  m_matrix = other.m_matrix;
-  m_label_display = other.m_label_display;
+  if (!other.m_links)
+    m_links.reset();
+  else if (Links* l = links())
+    *l = *other.m_links;
   m_status_flags = other.m_status_flags;
   m_line_weight_number = other.m_line_weight_number;
   m_colour.become(other.m_colour);
@@ -298,9 +321,13 @@ void igsDirectoryEntry::set_fields(igsDirectoryFields const& f) {
   m_structure = f.structure;
   m_line_font = igsLineFont(f.line_font);
   m_level = igsLevel(f.level);
-  m_view = igsObjectPtr(f.view);
-  m_matrix = igsObjectPtr(f.matrix);
-  m_label_display = igsObjectPtr(f.label_display);
+  if (f.view <= 0 && f.matrix <= 0 && f.label_display <= 0) {
+    m_links.reset();
+  } else if (Links* l = links()) {
+    l->view = igsObjectPtr(f.view);
+    l->matrix = igsObjectPtr(f.matrix);
+    l->label_display = igsObjectPtr(f.label_display);
+  }
   m_status_flags = igsStatusFlags(f.blank_status, f.subordinate_status, f.entity_use, f.hierarchy);
   m_line_weight_number = f.line_weight_number;
   m_colour = igsColour(f.colour);
@@ -325,9 +352,9 @@ igsDirectoryFields igsDirectoryEntry::fields() const {
   f.structure = m_structure;
   f.line_font = m_line_font.field();
   f.level = m_level.field();
-  f.view = de_number_of(m_view);
-  f.matrix = de_number_of(m_matrix);
-  f.label_display = de_number_of(m_label_display);
+  f.view = de_number_of(view());
+  f.matrix = de_number_of(matrix());
+  f.label_display = de_number_of(label_display());
   f.blank_status = m_status_flags.blank_status_value();
   f.subordinate_status = m_status_flags.subordinate_status_value();
   f.entity_use = m_status_flags.entity_use_value();
@@ -352,9 +379,11 @@ igsEntityType igsDirectoryEntry::get_entity_type(int type) {
 }
 
 void igsDirectoryEntry::unreference_children() {
-  m_view.unreference();
-  m_matrix.unreference();
-  m_label_display.unreference();
+  if (m_links) {
+    m_links->view.unreference();
+    m_links->matrix.unreference();
+    m_links->label_display.unreference();
+  }
   m_colour.unreference_children();
   m_line_font.unreference_children();
   m_level.unreference_children();
@@ -372,10 +401,10 @@ void igsDirectoryEntry::print(utOstream& out) const {
   level1 << "Structure = " << m_structure << "\n";
   level1 << "LineFontPattern = " << m_line_font << "\n";
   level1 << "Level = " << m_level << "\n";
-  level1 << (m_view ? "View = Unsupported\n" : "View = AllViews\n");
-  if (m_matrix) {
+  level1 << (view() ? "View = Unsupported\n" : "View = AllViews\n");
+  if (igsObjectPtr const& transform = matrix()) {
     level1 << "TransformationMatrix = {\n";
-    m_matrix->print(level2);
+    transform->print(level2);
     level1 << "}\n";
   } else {
     level1 << "TransformationMatrix = IdentityMatrix\n";

@@ -9,6 +9,8 @@
 #include "sections/igsLineFont.h"
 #include "sections/igsStatusFlags.h"
 
+#include <memory>
+
 class igsInStream;
 class igsOutStream;
 class utOstream;
@@ -67,9 +69,11 @@ class igsDirectoryEntry {
   int structure() const { return m_structure; }
   igsLineFont const& line_font() const { return m_line_font; }
   igsLevel const& level() const { return m_level; }
-  igsObjectPtr const& view() const { return m_view; }
-  igsObjectPtr const& matrix() const { return m_matrix; }
-  igsObjectPtr const& label_display() const { return m_label_display; }
+  igsObjectPtr const& view() const { return m_links ? m_links->view : no_reference(); }
+  igsObjectPtr const& matrix() const { return m_links ? m_links->matrix : no_reference(); }
+  igsObjectPtr const& label_display() const {
+    return m_links ? m_links->label_display : no_reference();
+  }
   igsStatusFlags const& status_flags() const { return m_status_flags; }
   int line_weight_number() const { return m_line_weight_number; }
   igsColour const& colour() const { return m_colour; }
@@ -90,7 +94,9 @@ class igsDirectoryEntry {
   int set_matrix(igsObjectPtr const& matrix);
   // Refuses a null reference; remove_view clears the view.
   int set_view(igsObjectPtr const& view);
-  void remove_view() { m_view = igsObjectPtr(); }
+  void remove_view() {
+    if (m_links) m_links->view = igsObjectPtr();
+  }
   // Refuses a null string.
   int set_entity_label(utString const& label);
   // Refuse negative numbers.
@@ -98,7 +104,8 @@ class igsDirectoryEntry {
   int set_line_weight_number(int number);
   // Refuses a form that the entity type does not have.
   int set_form_number(int form);
-  void set_label_display(igsObjectPtr const& label_display) { m_label_display = label_display; }
+  // Stores nothing if there is no memory for the entry's references.
+  void set_label_display(igsObjectPtr const& label_display);
   void set_structure(int structure) { m_structure = structure; }
 
   // Copies every field but the entity type and the manager.
@@ -140,20 +147,30 @@ class igsDirectoryEntry {
   static utString const& no_label();
   void set_parameter_line_count(int count) { m_parameter_line_count = count; }
 
-  // A file holds one entry per entity, so no byte is left as padding: each reference leaves
-  // four bytes behind its two fields, where a number of four bytes stands.
+  // The references to a view, a matrix and a label display, which few entities have: kept
+  // apart from the entry, and made when the first of them is set.
+  struct Links {
+    igsObjectPtr view;
+    igsObjectPtr matrix;
+    igsObjectPtr label_display;
+  };
+  // The entry's references, made if need be; null if there was no memory for them.
+  Links* links();
+  // The null reference that an entry without references gives for each of them.
+  static igsObjectPtr const& no_reference();
+
+  // A file holds one entry per entity, so no byte is left as padding: each definition value
+  // keeps its number in the tail padding of its reference.
   igsLineFont m_line_font;
   igsLevel m_level;
   igsColour m_colour;
-  [[no_unique_address]] igsObjectPtr m_view;
-  int m_structure = 0;
-  [[no_unique_address]] igsObjectPtr m_matrix;
-  int m_line_weight_number = 0;
-  [[no_unique_address]] igsObjectPtr m_label_display;
-  int m_form_number = 0;
+  std::unique_ptr<Links> m_links;
   utString m_entity_label = no_label();
   igsObjectManager* m_manager = nullptr;
   igsStatusFlags m_status_flags;
+  int m_structure = 0;
+  int m_line_weight_number = 0;
+  int m_form_number = 0;
   int m_entity_subscript = 0;
   igsEntityType m_entity_type = igsEntityTypeUnknown;
   int m_parameter_line_count = 0;
