@@ -101,10 +101,14 @@ int igs112::read_pd_data(igsInStream& in) {
   igs_read_fields(in, type, m_continuity, dimensionality, n);
   m_spline_type = static_cast<igsSplineType>(type);
   m_dimensionality = static_cast<igsSplineDimensionality>(dimensionality);
-  m_breakpoints.clear(1);
-  m_segments.clear(1);
-  if (n >= 1 && n < INT_MAX && igs_read_breakpoints(in, m_breakpoints, n + 1) &&
-      read_segments(in) && read_derivatives(in))
+  if (n < 1 || n == INT_MAX) {
+    raise_error<igs112BadNumSegments>(n);
+    return 0;
+  }
+  // A curve is sized once: a further record of the same entity, which a file whose back
+  // pointers repeat gives, leaves the segments of the first as they were.
+  if (m_breakpoints.size()) return 0;
+  if (igs_read_breakpoints(in, m_breakpoints, n + 1) && read_segments(in) && read_derivatives(in))
     return 1;
   raise_error<igs112BadNumSegments>(n);
   m_breakpoints.clear(1);
