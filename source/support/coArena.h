@@ -5,12 +5,37 @@
 // that cannot be had is null.
 #pragma once
 
-#include "support/coPool.h"
-
+#include <algorithm>
 #include <cstddef>
 #include <memory>
 #include <new>
 #include <vector>
+
+#if defined(__SANITIZE_ADDRESS__)
+#define CO_ARENA_ASAN 1
+#elif defined(__has_feature)
+#if __has_feature(address_sanitizer)
+#define CO_ARENA_ASAN 1
+#endif
+#endif
+#ifdef CO_ARENA_ASAN
+#include <sanitizer/asan_interface.h>
+#endif
+
+// Memory that is free is out of bounds for the address sanitizer, so a use after it was given
+// back is found as it would be with the heap; without the sanitizer these do nothing.
+inline void co_arena_poison([[maybe_unused]] void const* memory,
+                            [[maybe_unused]] std::size_t size) {
+#ifdef CO_ARENA_ASAN
+  ASAN_POISON_MEMORY_REGION(memory, size);
+#endif
+}
+inline void co_arena_unpoison([[maybe_unused]] void const* memory,
+                              [[maybe_unused]] std::size_t size) {
+#ifdef CO_ARENA_ASAN
+  ASAN_UNPOISON_MEMORY_REGION(memory, size);
+#endif
+}
 
 class coArena {
  public:
@@ -20,7 +45,7 @@ class coArena {
 
   coArena() = default;
   ~coArena() {
-    for (Chunk const& chunk : m_chunks) co_pool_unpoison(chunk.bytes.get(), chunk.size);
+    for (Chunk const& chunk : m_chunks) co_arena_unpoison(chunk.bytes.get(), chunk.size);
   }
   coArena(coArena const&) = delete;
   coArena& operator=(coArena const&) = delete;
@@ -29,9 +54,9 @@ class coArena {
     if (size > largest) return ::operator new(size, std::nothrow);
     std::size_t index = size_class(size);
     if (Free* block = m_free[index]) {
-      co_pool_unpoison(block, sizeof(Free));
+      co_arena_unpoison(block, sizeof(Free));
       m_free[index] = block->next;
-      co_pool_unpoison(block, block_size(index));
+      co_arena_unpoison(block, block_size(index));
       return block;
     }
     std::size_t bytes = block_size(index);
@@ -39,7 +64,7 @@ class coArena {
     void* block = m_next;
     m_next += bytes;
     m_left -= bytes;
-    co_pool_unpoison(block, bytes);
+    co_arena_unpoison(block, bytes);
     return block;
   }
 
@@ -54,7 +79,7 @@ class coArena {
     Free* free = static_cast<Free*>(block);
     free->next = m_free[index];
     m_free[index] = free;
-    co_pool_poison(block, block_size(index));
+    co_arena_poison(block, block_size(index));
   }
 
  private:
@@ -77,7 +102,7 @@ class coArena {
     }
     m_next = m_chunks.back().bytes.get();
     m_left = size;
-    co_pool_poison(m_next, size);
+    co_arena_poison(m_next, size);
     return 1;
   }
 
