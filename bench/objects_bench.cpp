@@ -7,7 +7,6 @@
 #include "core/igsFile.h"
 #include "core/igsObject.h"
 #include "core/igsObjectPtr.h"
-#include "sections/igsDirectoryEntry.h"
 
 #include <benchmark/benchmark.h>
 
@@ -33,31 +32,21 @@ class BenchNode : public igsObject {
 };
 KVU_DEFINE_TYPE(BenchNode, igsObject)
 
-// The floor's entity: the same three blocks as ours (entity, manager-sized record and
-// DE-sized attributes), with a reference count in the record that each reference raises, so
-// that the floor touches the target as any counted reference must. It does no registration.
-struct PlainRecord {
-  int count = 0;
-  char rest[sizeof(igsObjectManager) - sizeof(int)] = {};
-};
-struct PlainAttributes {
-  char bytes[sizeof(igsDirectoryEntry)] = {};
-};
+// The floor's entity: one block of the size of ours (an entity holds its manager and its
+// Directory Entry), with a reference count in it that each reference raises, so that the floor
+// touches the target as any counted reference must. It does no registration.
 struct PlainNode {
-  PlainNode() : record(new PlainRecord), attributes(new PlainAttributes) {}
   virtual ~PlainNode() {
     for (PlainNode* r : refs)
-      if (r) --r->record->count;
-    delete record;
-    delete attributes;
+      if (r) --r->count;
   }
   void refer(int i, PlainNode* target) {
     refs[i] = target;
-    ++target->record->count;
+    ++target->count;
   }
+  int count = 0;
+  char rest[sizeof(BenchNode) - sizeof(void*) - 3 * sizeof(PlainNode*) - sizeof(int)] = {};
   PlainNode* refs[3] = {};
-  PlainRecord* record;
-  PlainAttributes* attributes;
 };
 
 // Earlier entities picked by a cheap generator, the same for ours and the floor: among the
@@ -140,7 +129,7 @@ void floor(int n, Phases& phases) {
   auto t1 = Clock::now();
   for (int i = 0; i < n; i += 10) {
     auto* replacement = new PlainNode;
-    replacement->record->count = nodes[static_cast<size_t>(i)]->record->count;
+    replacement->count = nodes[static_cast<size_t>(i)]->count;
     nodes[static_cast<size_t>(i)]->refs[0] = nodes[static_cast<size_t>(i)]->refs[1] = nullptr;
     nodes[static_cast<size_t>(i)]->refs[2] = nullptr;
     delete nodes[static_cast<size_t>(i)];

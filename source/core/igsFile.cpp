@@ -22,44 +22,37 @@ igsFile::~igsFile() {
 
 void igsFile::object_created(igsObject* object) {
   int location = m_free_slots.empty() ? m_table.size() : m_free_slots.pop();
-  igsObjectManager* manager = nullptr;
+  igsObjectManager* manager = object;
+  m_table[location] = manager;
+  if (m_table.size() <= location) {
+    m_free_slots.insert_first(location); // no memory for the slot: the entity stays out of the file
+    return;
+  }
   igsObjectManager** waiting =
       m_forward_references.empty() ? nullptr : m_forward_references.read(location);
   if (waiting) {
     // References bound to this DE number before now reach the new entity.
-    manager = *waiting;
+    igsObjectManager* placeholder = *waiting;
     m_forward_references.remove(location);
+    manager->take_references(*placeholder);
+    m_managers.destroy(placeholder);
   } else {
-    manager = m_managers.make();
-    if (!manager) return;
     ++m_manager_count;
   }
-  igsDirectoryEntry* de = m_directory_entries.make();
-  if (!de) {
-    m_forward_references[location] = manager;
-    return;
-  }
-  de->set_manager(manager);
-  manager->set_directory_entry(de);
-  manager->set_object(object);
   manager->set_system_location(location);
   manager->set_file(this);
-  object->set_manager(manager);
-  m_table[location] = manager;
   ++m_num_entities;
 }
 
 void igsFile::object_deleted(igsObject* object) {
-  igsObjectManager* manager = object->manager();
+  igsObjectManager* manager = object;
   int location = manager->system_location();
   m_table[location] = nullptr;
   m_free_slots.insert_first(location);
   --m_manager_count;
   --m_num_entities;
-  igsDirectoryEntry* de = manager->directory_entry();
-  object->set_manager(nullptr);
-  m_managers.destroy(manager); // nulls every reference to the entity
-  m_directory_entries.destroy(de);
+  manager->drop_references(); // every reference to the entity is null from here
+  manager->set_file(nullptr);
 }
 
 void igsFile::ptr_created(igsObjectPtr* ptr, int location) {

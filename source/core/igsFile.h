@@ -152,10 +152,9 @@ class igsFile {
   igsStartSection m_start_section{this};
   igsGlobalSection m_global_section{this};
   igsTerminateSection m_terminate_section{this};
-  // The managers and Directory Entries of the entities, drawn from pools of the file: a read
-  // makes a few large allocations for them rather than two small ones per entity.
+  // The managers of DE numbers referenced before their entities exist, drawn from a pool of
+  // the file; an entity carries its own.
   coPool<igsObjectManager> m_managers;
-  coPool<igsDirectoryEntry> m_directory_entries;
   // The memory of the entities made while the file is current, in blocks of their sizes.
   coArena m_object_memory;
   igsObjectManagerPtrcoPageArr m_table;

@@ -101,7 +101,10 @@ int igsFile::read_parameter_data_section(igsInStream& in) {
     int column = 0;
     in.position(section, line, column);
     int backpointer = in.backpointer();
-    igsObjectPtr current(backpointer);
+    // Looked up, not referenced: a reading entity is not deleted, and a reference would give
+    // every entity whose parent came first a second one for the time of its read.
+    igsObject* current =
+        backpointer > 0 && backpointer % 2 == 1 ? object_at((backpointer - 1) / 2) : nullptr;
     if (!current) {
       // Lines of no entity are passed over.
       while (in.backpointer() == backpointer && igs_stream_section(in) == igsSectionParameter &&
@@ -126,13 +129,13 @@ int igsFile::read_parameter_data_section(igsInStream& in) {
       if (current && !sound &&
           (in.error_type(igsIOBadBackpointer) || in.error_type(igsIOBadLineNumber) ||
            in.error_type(igsIOBadSectionLetter)))
-        delete current();
+        delete current;
       break;
     }
     // The last record ends on the T line: the Terminate count makes its count come out right.
     int lines_used =
         in.num_lines(igsSectionParameter) + in.num_lines(igsSectionTerminate) - lines_before;
-    int count_in_de = current ? current->directory_entry().parameter_line_count() : lines_used;
+    int count_in_de = current->directory_entry().parameter_line_count();
     if (lines_used != count_in_de)
       tag_error(new (std::nothrow)
                     igsFileIncorrectPDLineCount(backpointer, lines_used, count_in_de));

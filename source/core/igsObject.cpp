@@ -10,13 +10,19 @@
 
 KVU_DEFINE_TYPE(igsObject)
 
+igsDirectoryEntry* igsObjectManager::directory_entry() const {
+  igsObject* entity = object();
+  return entity ? &entity->directory_entry() : nullptr;
+}
+
 igsObject::igsObject() {
+  m_is_entity = 1;
   igsObjectSystem::initialize_system();
   igsObjectSystem::object_created(this);
 }
 
 igsObject::~igsObject() {
-  igsFile* file = m_manager ? m_manager->file() : nullptr;
+  igsFile* file = igsObjectManager::file();
   if (file) file->object_deleted(this);
   s_memory_owner = file;
 }
@@ -50,16 +56,17 @@ int igsObject::num_logged_errors() const {
 
 int igsObject::check() const {
   igsObjectSystem::reentrant_start();
-  if (!m_manager->visited()) {
-    m_manager->set_visited(1);
+  igsObjectManager* own = const_cast<igsObject*>(this);
+  if (!own->visited()) {
+    own->set_visited(1);
     // A re-check starts clean; structure errors stay.
     igsObjectSystem::log().get_indexed_log(igsObjectLog)->clear(de_number());
     check_pd();
     check_de();
-    m_manager->set_validated(num_logged_errors() == 0);
+    own->set_validated(num_logged_errors() == 0);
   }
   igsObjectSystem::reentrant_end();
-  return m_manager->validated();
+  return own->validated();
 }
 
 void igsObject::print(utOstream& out) const {
@@ -67,8 +74,8 @@ void igsObject::print(utOstream& out) const {
   utOstream nested(utOstreamTabTag, out, 1, 0);
   out << "@" << de_number() << "(" << static_cast<int>(directory_entry().entity_type())
       << ") = {\n";
-  if (!m_manager->visited()) {
-    m_manager->set_visited(1);
+  if (!visited()) {
+    const_cast<igsObject*>(this)->set_visited(1);
     directory_entry().print(nested);
     print_pd_data(nested);
   }

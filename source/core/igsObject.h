@@ -1,11 +1,12 @@
 // The abstract base of every entity. An entity joins the current file when it is constructed
-// and reaches its Directory Entry, DE number and file through the manager that the file gives
-// it; it leaves the file when it is destroyed. Entities are always made with new: the file
-// deletes what it holds.
+// and leaves it when it is destroyed. It carries its manager (the record of its references,
+// DE number and file) and its Directory Entry within itself, so that an entity is one block
+// of memory. Entities are always made with new: the file deletes what it holds.
 #pragma once
 
 #include "core/igsEntityType.h"
 #include "core/igsObjectManager.h"
+#include "sections/igsDirectoryEntry.h"
 #include "support/kvuTypeInfo.h"
 #include "support/utOstream.h"
 
@@ -17,7 +18,7 @@ class igsOutStream;
 class igsObjectError;
 class igsStructureError;
 
-class igsObject {
+class igsObject : private igsObjectManager {
   // typeof: kind-of test; isa: exact test.
   KVU_DECLARE_ROOT_TYPE()
 
@@ -35,14 +36,14 @@ class igsObject {
   // Checks the entity once per walk; 1 when it has no logged errors afterwards.
   int check() const;
   // 2 x slot + 1: the number under which files, errors and messages name the entity.
-  int de_number() const { return 2 * m_manager->system_location() + 1; }
-  igsDirectoryEntry& directory_entry() const { return *m_manager->directory_entry(); }
-  igsFile& file() const { return *m_manager->file(); }
+  int de_number() const { return 2 * system_location() + 1; }
+  igsDirectoryEntry& directory_entry() const { return m_directory_entry; }
+  igsFile& file() const { return *igsObjectManager::file(); }
   // The name of the entity type.
   utString const& name() const;
   // Active errors filed under this DE number in the object and structure logs.
   int num_logged_errors() const;
-  int num_references() const { return m_manager->num_references(); }
+  int num_references() const { return igsObjectManager::num_references(); }
   // Prints the entity as "@<DE>(<type>) = {" ... "}"; an entity met again in the same walk
   // prints only that frame.
   void print(utOstream& out) const;
@@ -105,12 +106,17 @@ class igsObject {
   friend class igsFactory;
   friend class igsFile;
   friend class igsObjectPtr;
-  igsObjectManager* manager() const { return m_manager; }
-  void set_manager(igsObjectManager* manager) { m_manager = manager; }
+  friend class igsObjectManager;
+  friend class igsDirectoryEntry;
+  // The entity's manager, or null if the entity never joined a file (there was no memory).
+  igsObjectManager* manager() const {
+    igsObjectManager const* own = this;
+    return own->file() ? const_cast<igsObjectManager*>(own) : nullptr;
+  }
 
   // The file whose memory the entity deleted last had: its destructor leaves it for the
   // operator delete that follows at once.
   static inline igsFile* s_memory_owner = nullptr;
 
-  igsObjectManager* m_manager = nullptr;
+  mutable igsDirectoryEntry m_directory_entry;
 };

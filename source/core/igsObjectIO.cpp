@@ -13,7 +13,7 @@ int igsObject::read(igsInStream& in, int& bad_line_numbers, int& blank_lines) {
     if (in.error_type(igsIONotANumber)) raise_error<igsFileCorruptObjectData>(de_number());
     if (in.error_type(igsIONullCharacter)) raise_error<igsFilePDNullCharacters>(de_number());
     if (in.error_type(igsIOLineSequence)) bad_line_numbers = 1;
-    m_manager->set_visited(1);
+    set_visited(1);
   }
   if (in.error_type(igsIOBlankLine)) blank_lines = 1;
   int sound = !in.fatal_error();

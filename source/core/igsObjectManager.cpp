@@ -5,31 +5,49 @@
 #include <new>
 
 igsObjectManager::~igsObjectManager() {
+  drop_references();
+}
+
+void igsObjectManager::drop_references() {
   for (int location = 0; location < m_size; ++location)
     if (igsObjectPtr* ptr = pointer(location)) {
       ptr->set_manager(nullptr);
       ptr->set_manager_location(-1);
     }
-  if (m_slots != m_inline) delete[] m_slots;
+  if (m_capacity > 1) delete[] m_many;
+  m_one = 0;
+  m_size = 0;
+  m_capacity = 1;
+  m_first_hole = -1;
+  m_num_references = 0;
+}
+
+void igsObjectManager::take_references(igsObjectManager& other) {
+  for (int location = 0; location < other.m_size; ++location)
+    if (igsObjectPtr* ptr = other.pointer(location)) {
+      other.delete_pointer(ptr);
+      add_pointer(ptr);
+    }
 }
 
 igsObjectPtr* igsObjectManager::pointer(int location) const {
-  if (location < 0 || location >= m_size || (m_slots[location] & 1u)) return nullptr;
-  return reinterpret_cast<igsObjectPtr*>(m_slots[location]);
+  if (location < 0 || location >= m_size || (slots()[location] & 1u)) return nullptr;
+  return reinterpret_cast<igsObjectPtr*>(slots()[location]);
 }
 
 void igsObjectManager::move_pointer(int location, igsObjectPtr* ptr) {
-  m_slots[location] = reinterpret_cast<Slot>(ptr);
+  slots()[location] = reinterpret_cast<Slot>(ptr);
 }
 
 // Grows the list by the increment; 0 if there was no memory.
 int igsObjectManager::grow() {
   int capacity = m_capacity + pointer_list_increment();
-  Slot* slots = new (std::nothrow) Slot[static_cast<size_t>(capacity)];
-  if (!slots) return 0;
-  for (int i = 0; i < m_size; ++i) slots[i] = m_slots[i];
-  if (m_slots != m_inline) delete[] m_slots;
-  m_slots = slots;
+  Slot* grown = new (std::nothrow) Slot[static_cast<size_t>(capacity)];
+  if (!grown) return 0;
+  Slot const* old = slots();
+  for (int i = 0; i < m_size; ++i) grown[i] = old[i];
+  if (m_capacity > 1) delete[] m_many;
+  m_many = grown;
   m_capacity = capacity;
   return 1;
 }
@@ -37,12 +55,12 @@ int igsObjectManager::grow() {
 void igsObjectManager::add_pointer(igsObjectPtr* ptr) {
   int location = m_first_hole;
   if (location >= 0) {
-    m_first_hole = next_hole(m_slots[location]);
+    m_first_hole = next_hole(slots()[location]);
   } else {
     if (m_size == m_capacity && !grow()) return; // no room: the reference stays null
     location = m_size++;
   }
-  m_slots[location] = reinterpret_cast<Slot>(ptr);
+  slots()[location] = reinterpret_cast<Slot>(ptr);
   ptr->set_manager(this);
   ptr->set_manager_location(location);
   ++m_num_references;
@@ -53,7 +71,7 @@ void igsObjectManager::add_pointer(igsObjectPtr* ptr) {
 void igsObjectManager::delete_pointer(igsObjectPtr* ptr) {
   int location = ptr->location();
   if (pointer(location) != ptr) return;
-  m_slots[location] = hole(m_first_hole);
+  slots()[location] = hole(m_first_hole);
   m_first_hole = location;
   --m_num_references;
   ptr->set_manager(nullptr);

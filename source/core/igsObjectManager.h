@@ -1,6 +1,8 @@
 // The record a file keeps for each entity (and for each DE number referenced before its
 // entity exists). Every reference to the entity is registered here, so deleting or replacing
-// the entity reaches all of them at once.
+// the entity reaches all of them at once. An entity's manager is part of the entity itself; a
+// DE number referenced before its entity exists has a manager of its own, whose references
+// move to the entity when it comes.
 #pragma once
 
 #include "support/coNames.h"
@@ -22,10 +24,21 @@ class igsObjectManager {
   // Forgets the reference; its slot is reused by the next one added.
   void delete_pointer(igsObjectPtr* ptr);
 
-  igsObject* object() const { return m_object; }
-  void set_object(igsObject* object) { m_object = object; }
-  igsDirectoryEntry* directory_entry() const { return m_directory_entry; }
-  void set_directory_entry(igsDirectoryEntry* de) { m_directory_entry = de; }
+  // Moves every reference of `other` here, as an entity takes the place of the manager that
+  // stood for its DE number.
+  void take_references(igsObjectManager& other);
+  // Nulls every reference and frees the list, as the entity goes.
+  void drop_references();
+
+  // The entity, or null for a manager that stands for a DE number without one. An entity's
+  // manager stands in it right after its table of virtual operations (a test holds the two
+  // to each other).
+  igsObject* object() const {
+    if (!m_is_entity) return nullptr;
+    char* entity = reinterpret_cast<char*>(const_cast<igsObjectManager*>(this)) - sizeof(void*);
+    return reinterpret_cast<igsObject*>(entity);
+  }
+  igsDirectoryEntry* directory_entry() const;
   igsFile* file() const { return m_file; }
   void set_file(igsFile* file) { m_file = file; }
   int system_location() const { return m_system_location; }
@@ -45,10 +58,12 @@ class igsObjectManager {
  private:
   friend class igsObjectManagerIT;
   friend class igsObjectPtr;
+  friend class igsObject;
   // The reference list holds the addresses of the references. A hole (a slot whose reference
   // left) reads as null to everyone else but holds the next hole of the free list, so holes
   // are reused last freed first without a separate stack: (next + 1) * 2 + 1, odd, where an
-  // address is even. The first two slots live in the manager itself.
+  // address is even. The first slot lives in the manager itself, where most entities need no
+  // more.
   using Slot = std::uintptr_t;
   static Slot hole(int next) { return (static_cast<Slot>(next + 1) << 1) | 1u; }
   static int next_hole(Slot slot) { return static_cast<int>(slot >> 1) - 1; }
@@ -57,23 +72,26 @@ class igsObjectManager {
   // A reference moved to a new address keeps its slot.
   void move_pointer(int location, igsObjectPtr* ptr);
   int grow();
+  Slot* slots() { return m_capacity == 1 ? &m_one : m_many; }
+  Slot const* slots() const { return m_capacity == 1 ? &m_one : m_many; }
 
   // The fields of eight bytes first, then those of four, then the flags and the power of 8 of
   // the increment in one byte each, so that no padding parts them: a file holds one manager
   // per entity.
-  igsObject* m_object = nullptr;
-  igsDirectoryEntry* m_directory_entry = nullptr;
   igsFile* m_file = nullptr;
-  Slot m_inline[2] = {};
-  Slot* m_slots = m_inline;
+  union {
+    Slot m_one = 0; // the list while its capacity is 1
+    Slot* m_many;   // the list once it has grown
+  };
   int m_system_location = -1;
   int m_size = 0;
-  int m_capacity = 2;
+  int m_capacity = 1;
   int m_first_hole = -1;
   int m_num_references = 0;
   std::uint8_t m_visited = 0;
   std::uint8_t m_validated = 0;
   std::uint8_t m_increment_power = 0;
+  std::uint8_t m_is_entity = 0; // part of an igsObject
 };
 
 // Walks the live references of one manager.

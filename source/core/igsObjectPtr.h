@@ -32,6 +32,9 @@ class igsObjectPtr {
 
   // Gives up this reference: it becomes null. If it was the last one to an existing target,
   // the target drops its own children and is then deleted, so the loss runs down the tree.
+  // Whether the reference is bound to an entity or to a DE number that has none yet.
+  int bound() const { return m_manager != nullptr; }
+
   void unreference();
 
  private:

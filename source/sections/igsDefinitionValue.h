@@ -6,39 +6,60 @@
 
 #include "core/igsObjectPtr.h"
 
+#include <cstdint>
+#include <utility>
+
 class igsDirectoryEntry;
 class utString;
 
 class igsDefinitionValue {
  public:
+  igsDefinitionValue(igsDefinitionValue const& other) : igsDefinitionValue() { become(other); }
+  igsDefinitionValue(igsDefinitionValue&& other) noexcept : m_word(other.m_word) {
+    other.m_word = predefined_word(0);
+  }
+  igsDefinitionValue& operator=(igsDefinitionValue const& other) {
+    become(other);
+    return *this;
+  }
+  igsDefinitionValue& operator=(igsDefinitionValue&& other) noexcept {
+    std::swap(m_word, other.m_word);
+    return *this;
+  }
+  ~igsDefinitionValue() { delete defined(); }
+
   // The reference of a field: bound to DE number -field for a negative field, else null.
   static igsObjectPtr definition_of_field(int field);
 
   // Whether there is no definition (a reference to a DE number without an entity is none).
-  int predefined() const { return !m_definition; }
-  igsObjectPtr const& definition() const { return m_definition; }
+  int predefined() const {
+    Defined const* d = defined();
+    return !d || !d->definition;
+  }
+  igsObjectPtr const& definition() const;
   // The value as stored: the number, or minus the DE number the definition had when it was
   // read or set.
-  int value() const { return m_value; }
+  int value() const {
+    Defined const* d = defined();
+    return d ? d->value : static_cast<int>(static_cast<std::intptr_t>(m_word) >> 1);
+  }
   // What a D line holds: the value when predefined, else minus the definition's current DE
   // number.
   int field() const;
-  void unreference_children() { m_definition.unreference(); }
+  void unreference_children();
 
  protected:
-  igsDefinitionValue(igsObjectPtr const& definition, int value)
-      : m_definition(definition), m_value(value) {}
+  // A reference bound to a DE number (even one without an entity yet) is kept with the value;
+  // if there is no memory for it, the value stands alone.
+  igsDefinitionValue(igsObjectPtr const& definition, int value);
 
-  void become(igsDefinitionValue const& other) {
-    m_definition = other.m_definition;
-    m_value = other.m_value;
-  }
+  void become(igsDefinitionValue const& other);
   // Stores the number and drops the definition.
   void set_value(int value) {
-    m_value = value;
-    m_definition = igsObjectPtr();
+    delete defined();
+    m_word = predefined_word(value);
   }
-  // Refuses a null reference; else stores it with the value.
+  // Refuses a null reference (or no memory for it); else stores it with the value.
   int set_definition(igsObjectPtr const& definition, int value);
   // Minus the DE number of the definition; the caller has tested it.
   int minus_de_number() const;
@@ -52,7 +73,20 @@ class igsDefinitionValue {
   utString definition_name() const;
 
  private:
-  // The value stands in the reference's tail padding: a Directory Entry holds three of these.
-  [[no_unique_address]] igsObjectPtr m_definition;
-  int m_value;
+  struct Defined {
+    igsObjectPtr definition;
+    int value;
+  };
+  igsDefinitionValue() = default;
+  // Keeps a bound reference with the value; 0 if there was no memory for them.
+  int store(igsObjectPtr const& definition, int value);
+  static std::uintptr_t predefined_word(int value) {
+    return (static_cast<std::uintptr_t>(static_cast<std::intptr_t>(value)) << 1) | 1u;
+  }
+  Defined* defined() const { return m_word & 1u ? nullptr : reinterpret_cast<Defined*>(m_word); }
+
+  // A Directory Entry holds three of these, and nearly every one is a plain number: the word
+  // holds the number, shifted and marked in its low bit, or else the address of the block that
+  // keeps a definition with its value.
+  std::uintptr_t m_word = predefined_word(0);
 };

@@ -9,6 +9,7 @@
 #include "support/utOstream.h"
 
 #include <bit>
+#include <cstddef>
 #include <cstdint>
 #include <cstring>
 #include <iterator>
@@ -243,6 +244,17 @@ int igsDirectoryEntry::set_status_flags(igsStatusFlags const& flags) {
 igsDirectoryEntry::Links* igsDirectoryEntry::links() {
   if (!m_links) m_links.reset(new (std::nothrow) Links);
   return m_links.get();
+}
+
+// The entry stands at a fixed place in its entity, whose manager is a part of it too.
+igsObjectManager* igsDirectoryEntry::manager() const {
+#pragma GCC diagnostic push
+#pragma GCC diagnostic ignored "-Winvalid-offsetof"
+  constexpr std::size_t place = offsetof(igsObject, m_directory_entry);
+#pragma GCC diagnostic pop
+  auto const* entity =
+      reinterpret_cast<igsObject const*>(reinterpret_cast<char const*>(this) - place);
+  return entity->manager();
 }
 
 igsObjectPtr const& igsDirectoryEntry::no_reference() {

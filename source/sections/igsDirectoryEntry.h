@@ -60,9 +60,9 @@ struct igsDirectoryFields {
   bool operator==(igsDirectoryFields const& other) const = default;
 };
 
+// An entity holds its entry within itself.
 class igsDirectoryEntry {
  public:
-  igsDirectoryEntry() = default;
   igsDirectoryEntry(igsDirectoryEntry const&) = delete;
   igsDirectoryEntry& operator=(igsDirectoryEntry const&) = delete;
 
@@ -81,7 +81,8 @@ class igsDirectoryEntry {
   utString const& entity_label() const { return m_entity_label; }
   int entity_subscript() const { return m_entity_subscript; }
   igsEntityType entity_type() const { return m_entity_type; }
-  igsObjectManager* manager() const { return m_manager; }
+  // The manager of the entity that holds this entry.
+  igsObjectManager* manager() const;
 
   // Setters return 1 when they stored the value and 0 when they refused it.
   // Refuse what the attribute's `valid` refuses.
@@ -135,9 +136,9 @@ class igsDirectoryEntry {
  private:
   friend class igsFile;
   friend class igsObject;
+  igsDirectoryEntry() = default;
   // The repair of a wrong entity use stores the use alone, whatever the other digits hold.
   friend class igsDEInvalidEntityUse;
-  void set_manager(igsObjectManager* manager) { m_manager = manager; }
   void set_entity_type_and_form(igsEntityType type, int form) {
     m_entity_type = type;
     m_form_number = form;
@@ -159,14 +160,12 @@ class igsDirectoryEntry {
   // The null reference that an entry without references gives for each of them.
   static igsObjectPtr const& no_reference();
 
-  // A file holds one entry per entity, so no byte is left as padding: each definition value
-  // keeps its number in the tail padding of its reference.
+  // A file holds one entry per entity, so no byte is left as padding.
   igsLineFont m_line_font;
   igsLevel m_level;
   igsColour m_colour;
   std::unique_ptr<Links> m_links;
   utString m_entity_label = no_label();
-  igsObjectManager* m_manager = nullptr;
   igsStatusFlags m_status_flags;
   int m_structure = 0;
   int m_line_weight_number = 0;

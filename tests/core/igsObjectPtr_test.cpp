@@ -65,6 +65,8 @@ TEST_F(ReferenceTest, UnreferenceOfTwoEntitiesHoldingOnlyEachOtherDeletesBoth) {
 TEST_F(ReferenceTest, ReferenceListGrowsBySteps2Then16Then128) {
   auto* target = new testNode;
   igsObjectManager const& manager = *target->directory_entry().manager();
+  ASSERT_EQ(manager.object(), target);
+  ASSERT_EQ(manager.directory_entry(), &target->directory_entry());
   igsObjectPtrcoDynArr refs(2000, 0);
   struct Step {
     int references, increment;
