@@ -9,21 +9,19 @@ igsObjectManager::~igsObjectManager() {
 }
 
 void igsObjectManager::drop_references() {
-  for (int location = 0; location < m_size; ++location)
+  for (int location = 0, n = size(); location < n; ++location)
     if (igsObjectPtr* ptr = pointer(location)) {
       ptr->set_manager(nullptr);
       ptr->set_manager_location(-1);
     }
-  if (m_capacity > 1) delete[] m_many;
-  m_one = 0;
-  m_size = 0;
-  m_capacity = 1;
-  m_first_hole = -1;
+  if (m_listed) ::operator delete(list());
+  m_word = 0;
+  m_listed = 0;
   m_num_references = 0;
 }
 
 void igsObjectManager::take_references(igsObjectManager& other) {
-  for (int location = 0; location < other.m_size; ++location)
+  for (int location = 0, n = other.size(); location < n; ++location)
     if (igsObjectPtr* ptr = other.pointer(location)) {
       other.delete_pointer(ptr);
       add_pointer(ptr);
@@ -31,36 +29,60 @@ void igsObjectManager::take_references(igsObjectManager& other) {
 }
 
 igsObjectPtr* igsObjectManager::pointer(int location) const {
-  if (location < 0 || location >= m_size || (slots()[location] & 1u)) return nullptr;
-  return reinterpret_cast<igsObjectPtr*>(slots()[location]);
+  if (!m_listed) return location == 0 ? reinterpret_cast<igsObjectPtr*>(m_word) : nullptr;
+  if (location < 0 || location >= list()->size) return nullptr;
+  Slot slot = list()->slots()[location];
+  return slot & 1u ? nullptr : reinterpret_cast<igsObjectPtr*>(slot);
 }
 
 void igsObjectManager::move_pointer(int location, igsObjectPtr* ptr) {
-  slots()[location] = reinterpret_cast<Slot>(ptr);
+  if (m_listed)
+    list()->slots()[location] = reinterpret_cast<Slot>(ptr);
+  else
+    m_word = reinterpret_cast<Slot>(ptr);
 }
 
-// Grows the list by the increment; 0 if there was no memory.
+// Grows the list by the increment, making it from the reference held in place at first; 0 if
+// there was no memory.
 int igsObjectManager::grow() {
-  int capacity = m_capacity + pointer_list_increment();
-  Slot* grown = new (std::nothrow) Slot[static_cast<size_t>(capacity)];
-  if (!grown) return 0;
-  Slot const* old = slots();
-  for (int i = 0; i < m_size; ++i) grown[i] = old[i];
-  if (m_capacity > 1) delete[] m_many;
-  m_many = grown;
-  m_capacity = capacity;
+  int capacity = pointer_list_capacity() + pointer_list_increment();
+  void* memory =
+      ::operator new(sizeof(List) + static_cast<size_t>(capacity) * sizeof(Slot), std::nothrow);
+  if (!memory) return 0;
+  List* grown = new (memory) List{0, capacity, -1};
+  Slot* slots = grown->slots();
+  if (m_listed) {
+    List* old = list();
+    grown->size = old->size;
+    grown->first_hole = old->first_hole;
+    for (int i = 0; i < old->size; ++i) slots[i] = old->slots()[i];
+    ::operator delete(old);
+  } else if (m_word) {
+    slots[0] = m_word;
+    grown->size = 1;
+  }
+  m_word = reinterpret_cast<Slot>(grown);
+  m_listed = 1;
   return 1;
 }
 
 void igsObjectManager::add_pointer(igsObjectPtr* ptr) {
-  int location = m_first_hole;
-  if (location >= 0) {
-    m_first_hole = next_hole(slots()[location]);
+  int location = 0;
+  if (!m_listed && !m_word) {
+    m_word = reinterpret_cast<Slot>(ptr);
   } else {
-    if (m_size == m_capacity && !grow()) return; // no room: the reference stays null
-    location = m_size++;
+    if (!m_listed && !grow()) return; // no room: the reference stays null
+    List* l = list();
+    if (l->first_hole >= 0) {
+      location = l->first_hole;
+      l->first_hole = next_hole(l->slots()[location]);
+    } else {
+      if (l->size == l->capacity && !grow()) return;
+      l = list();
+      location = l->size++;
+    }
+    l->slots()[location] = reinterpret_cast<Slot>(ptr);
   }
-  slots()[location] = reinterpret_cast<Slot>(ptr);
   ptr->set_manager(this);
   ptr->set_manager_location(location);
   ++m_num_references;
@@ -71,8 +93,12 @@ void igsObjectManager::add_pointer(igsObjectPtr* ptr) {
 void igsObjectManager::delete_pointer(igsObjectPtr* ptr) {
   int location = ptr->location();
   if (pointer(location) != ptr) return;
-  slots()[location] = hole(m_first_hole);
-  m_first_hole = location;
+  if (m_listed) {
+    list()->slots()[location] = hole(list()->first_hole);
+    list()->first_hole = location;
+  } else {
+    m_word = 0;
+  }
   --m_num_references;
   ptr->set_manager(nullptr);
   ptr->set_manager_location(-1);
@@ -80,7 +106,7 @@ void igsObjectManager::delete_pointer(igsObjectPtr* ptr) {
 
 int igsObjectManagerIT::operator++() {
   if (m_manager) {
-    while (++m_index < m_manager->m_size)
+    while (++m_index < m_manager->size())
       if (m_manager->pointer(m_index)) return 1;
   }
   m_index = -1;

@@ -53,7 +53,7 @@ class igsObjectManager {
   // references passes 8 steps (2, 16, 128, ...), so heavily shared entities do not pay for
   // many small reallocations.
   int pointer_list_increment() const { return 2 << (3 * m_increment_power); }
-  int pointer_list_capacity() const { return m_capacity; }
+  int pointer_list_capacity() const { return m_listed ? list()->capacity : 1; }
 
  private:
   friend class igsObjectManagerIT;
@@ -62,36 +62,39 @@ class igsObjectManager {
   // The reference list holds the addresses of the references. A hole (a slot whose reference
   // left) reads as null to everyone else but holds the next hole of the free list, so holes
   // are reused last freed first without a separate stack: (next + 1) * 2 + 1, odd, where an
-  // address is even. The first slot lives in the manager itself, where most entities need no
-  // more.
+  // address is even. Most entities have one reference at most: the manager holds it in place,
+  // and a list is made when a second one comes.
   using Slot = std::uintptr_t;
   static Slot hole(int next) { return (static_cast<Slot>(next + 1) << 1) | 1u; }
   static int next_hole(Slot slot) { return static_cast<int>(slot >> 1) - 1; }
+  // A grown list: its counts, followed in the same block by its slots.
+  struct alignas(Slot) List {
+    int size;
+    int capacity;
+    int first_hole;
+    Slot* slots() { return reinterpret_cast<Slot*>(this + 1); }
+  };
+  List* list() const { return reinterpret_cast<List*>(m_word); }
+  // The number of slots in use, holes included.
+  int size() const { return m_listed ? list()->size : m_word != 0; }
   // The reference in the slot at location, or null for a hole or a location out of range.
   igsObjectPtr* pointer(int location) const;
   // A reference moved to a new address keeps its slot.
   void move_pointer(int location, igsObjectPtr* ptr);
   int grow();
-  Slot* slots() { return m_capacity == 1 ? &m_one : m_many; }
-  Slot const* slots() const { return m_capacity == 1 ? &m_one : m_many; }
 
   // The fields of eight bytes first, then those of four, then the flags and the power of 8 of
   // the increment in one byte each, so that no padding parts them: a file holds one manager
   // per entity.
   igsFile* m_file = nullptr;
-  union {
-    Slot m_one = 0; // the list while its capacity is 1
-    Slot* m_many;   // the list once it has grown
-  };
+  Slot m_word = 0; // the one reference, or 0; once listed, the address of the list
   int m_system_location = -1;
-  int m_size = 0;
-  int m_capacity = 1;
-  int m_first_hole = -1;
   int m_num_references = 0;
   std::uint8_t m_visited = 0;
   std::uint8_t m_validated = 0;
   std::uint8_t m_increment_power = 0;
   std::uint8_t m_is_entity = 0; // part of an igsObject
+  std::uint8_t m_listed = 0;
 };
 
 // Walks the live references of one manager.
