@@ -23,6 +23,7 @@ class igsIOCodeList {
   }
   // Appends the codes; a list without a fatal code then forgets them.
   void collect(igsIOErrorcoDynArr& errors) {
+    if (!m_recorded) return; // the common case: nothing to give
     for (igsIOError const& e : m_codes) errors.append(e);
     if (!m_fatal) clear();
   }
@@ -33,6 +34,7 @@ class igsIOCodeList {
     return 1;
   }
   int fatal() const { return m_fatal; }
+  int empty() const { return !m_recorded; }
   // The codes recorded since the current line was begun, one bit for each.
   unsigned line_codes() const { return m_line; }
 

@@ -11,13 +11,18 @@ igsInStream::~igsInStream() = default;
 // stands, so the list is stamped once.
 void igsInStream::collect_errors() {
   m_errors.shrink(0);
+  m_collected = 1;
+  if (!has_codes() && !m_int.has_codes() && !m_string.has_codes() && !m_holerith.has_codes() &&
+      !m_real.has_codes()) {
+    configure_for_decode(&m_real); // where the loop below leaves it
+    return;                        // the common case: nothing to collect
+  }
   igsDecoder* decoders[] = {&m_int, &m_string, &m_holerith, &m_real};
   for (igsDecoder* decoder : decoders) {
     configure_for_decode(decoder);
     append_errors(m_errors);
   }
   stamp_errors(m_errors);
-  m_collected = 1;
 }
 
 igsIOErrorcoDynArr const& igsInStream::errors() {
