@@ -137,12 +137,22 @@ int plain_number(char const* text, int width, int& value) {
   return 1;
 }
 
-// Reads number fields of the layout from `c` on, straight from the line, while each is plain
-// and lies within the data of an unstopped D line, and no further than `end`: the line is
-// tested once for them all, and the cursor passes over them in one move. Returns the first
-// field not read.
-Column const* read_plain_numbers(igsInStream& in, Column const* c, Column const* end,
-                                 Fields& fields) {
+// A text field of blanks alone, as the fixed-width read gives it: its columns as they stand.
+// 0 for any other field.
+int blank_text(char const* text, int width, utString& value) {
+  static utString const eight(std::string_view("        "));
+  static utString const sixteen(std::string_view("                "));
+  if ((width != 8 && width != 16) || leading_blanks(text, width) < width) return 0;
+  value = width == 8 ? eight : sixteen;
+  return 1;
+}
+
+// Reads fields of the layout from `c` on, straight from the line, while each is a plain number
+// or blank text and lies within the data of an unstopped D line, and no further than `end`:
+// the line is tested once for them all, and the cursor passes over them in one move. Returns
+// the first field not read.
+Column const* read_plain_fields(igsInStream& in, Column const* c, Column const* end,
+                                Fields& fields) {
   igsFileSection section;
   int line = 0;
   int column = 0;
@@ -151,8 +161,10 @@ Column const* read_plain_numbers(igsInStream& in, Column const* c, Column const*
   char const* text = in();
   int room = in.capacity() - 8 - column;
   int used = 0;
-  for (; c != end && c->number && used + c->width <= room; ++c) {
-    if (!plain_number(text + used, c->width, fields.*c->number)) break;
+  for (; c != end && used + c->width <= room; ++c) {
+    if (c->number ? !plain_number(text + used, c->width, fields.*c->number)
+                  : !blank_text(text + used, c->width, fields.*c->text))
+      break;
     used += c->width;
   }
   if (used) in.pass_over(static_cast<unsigned>(used));
@@ -172,7 +184,7 @@ int igsDirectoryFields::read(igsInStream& in, unsigned* line_codes) {
       for (igsIOError const& e : in.errors()) *line_codes |= igsIOCodeList::bit(e.error_type());
     }
     if (line_codes) {
-      Column const* next = read_plain_numbers(in, c, c == last ? std::end(layout) : last, *this);
+      Column const* next = read_plain_fields(in, c, c == last ? std::end(layout) : last, *this);
       if (next != c) {
         c = next - 1;
         continue;
