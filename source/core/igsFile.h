@@ -169,6 +169,10 @@ class igsFile {
   int m_blank_line = 0;
   int m_parameter_data_read = 1;
   int m_num_nulls = 0;
+  // Counted by a read, so that it walks the entities afterwards only if one may have to go:
+  // those given their parameter data, and the Null and Unknown ones made.
+  int m_entities_read = 0;
+  int m_entities_to_drop = 0;
   int m_num_unknowns = 0;
 };
 

@@ -18,6 +18,10 @@ int igsFile::read(std::istream& stream, utOstream& messages) {
   igsCurrentFileScope current(*this);
   igsInStream in(stream);
   if (!in.reset()) return 0;
+  // Entities made by this read start unvisited; only those that stood before need resetting.
+  int stood_before = m_num_entities > 0;
+  m_entities_read = 0;
+  m_entities_to_drop = 0;
   int blank_lines = 0;
   int result = m_start_section.read(in, blank_lines);
   if (blank_lines) m_blank_line = 1;
@@ -31,7 +35,7 @@ int igsFile::read(std::istream& stream, utOstream& messages) {
   m_parameter_data_read = 0;
   if (result) result = read_directory_section(in);
   if (result) {
-    reset_visit_flags();
+    if (stood_before) reset_visit_flags();
     result = read_parameter_data_section(in);
     m_parameter_data_read = 1;
   }
@@ -42,7 +46,13 @@ int igsFile::read(std::istream& stream, utOstream& messages) {
   }
   if (m_invalid_line_numbers) tag_error(new (std::nothrow) igsFileInvalidLineNumbers);
   if (m_blank_line) tag_error(new (std::nothrow) igsFileBlankLine);
-  if (m_parameter_data_read) tidyup();
+  // The walk over every entity is needed only if one may have to go.
+  if (m_parameter_data_read) {
+    if (stood_before || m_entities_to_drop || m_entities_read != m_num_entities)
+      tidyup();
+    else
+      remove_forward_references();
+  }
   return result;
 }
 
@@ -90,6 +100,7 @@ int igsFile::read_directory_entry(igsInStream& in) {
   if (igsObject* object = igsObject::create(static_cast<igsEntityType>(type), form)) {
     fields.form_number = form;
     object->directory_entry().set_fields(fields);
+    if (object->isa(igsNull::type()) || object->isa(igsUnknown::type())) ++m_entities_to_drop;
   }
   return sound;
 }
@@ -119,6 +130,7 @@ int igsFile::read_parameter_data_section(igsInStream& in) {
       tag_error(new (std::nothrow) igsFileIncorrectStartOfPD(backpointer, line, start_in_de));
     int bad_line_numbers = 0;
     int blank_lines = 0;
+    int read_before = current->manager()->visited();
     int sound = current->read(in, bad_line_numbers, blank_lines);
     if (bad_line_numbers) m_invalid_line_numbers = 1;
     if (blank_lines) m_blank_line = 1;
@@ -128,10 +140,14 @@ int igsFile::read_parameter_data_section(igsInStream& in) {
       // nothing from it.
       if (current && !sound &&
           (in.error_type(igsIOBadBackpointer) || in.error_type(igsIOBadLineNumber) ||
-           in.error_type(igsIOBadSectionLetter)))
+           in.error_type(igsIOBadSectionLetter))) {
         delete current;
+        m_entities_read = -1; // the count tells no longer: the entities are walked
+      }
       break;
     }
+    // Counted once it stands for good: a count short of the entities only costs a walk.
+    if (!read_before && current->manager()->visited()) ++m_entities_read;
     // The last record ends on the T line: the Terminate count makes its count come out right.
     int lines_used =
         in.num_lines(igsSectionParameter) + in.num_lines(igsSectionTerminate) - lines_before;
