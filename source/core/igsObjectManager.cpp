@@ -17,7 +17,6 @@ void igsObjectManager::drop_references() {
   if (m_listed) ::operator delete(list());
   m_word = 0;
   m_listed = 0;
-  m_num_references = 0;
 }
 
 void igsObjectManager::take_references(igsObjectManager& other) {
@@ -49,12 +48,14 @@ int igsObjectManager::grow() {
   void* memory =
       ::operator new(sizeof(List) + static_cast<size_t>(capacity) * sizeof(Slot), std::nothrow);
   if (!memory) return 0;
-  List* grown = new (memory) List{0, capacity, -1};
+  List* grown = new (memory) List{0, capacity, -1, m_word ? 1 : 0, 0};
   Slot* slots = grown->slots();
   if (m_listed) {
     List* old = list();
     grown->size = old->size;
     grown->first_hole = old->first_hole;
+    grown->num_references = old->num_references;
+    grown->increment_power = old->increment_power;
     for (int i = 0; i < old->size; ++i) slots[i] = old->slots()[i];
     ::operator delete(old);
   } else if (m_word) {
@@ -82,24 +83,26 @@ void igsObjectManager::add_pointer(igsObjectPtr* ptr) {
       location = l->size++;
     }
     l->slots()[location] = reinterpret_cast<Slot>(ptr);
+    ++l->num_references;
+    // The increment stops growing at 2^28, so that 8 of it stays an int.
+    if (l->increment_power < 9 && l->num_references > 8 * pointer_list_increment())
+      ++l->increment_power;
   }
   ptr->set_manager(this);
   ptr->set_manager_location(location);
-  ++m_num_references;
-  // The increment stops growing at 2^28, so that 8 of it stays an int.
-  if (m_increment_power < 9 && m_num_references > 8 * pointer_list_increment()) ++m_increment_power;
 }
 
 void igsObjectManager::delete_pointer(igsObjectPtr* ptr) {
   int location = ptr->location();
   if (pointer(location) != ptr) return;
   if (m_listed) {
-    list()->slots()[location] = hole(list()->first_hole);
-    list()->first_hole = location;
+    List* l = list();
+    l->slots()[location] = hole(l->first_hole);
+    l->first_hole = location;
+    --l->num_references;
   } else {
     m_word = 0;
   }
-  --m_num_references;
   ptr->set_manager(nullptr);
   ptr->set_manager_location(-1);
 }

@@ -47,12 +47,12 @@ class igsObjectManager {
   void set_visited(int visited) { m_visited = visited != 0; }
   int validated() const { return m_validated; }
   void set_validated(int validated) { m_validated = validated != 0; }
-  int num_references() const { return m_num_references; }
+  int num_references() const { return m_listed ? list()->num_references : m_word != 0; }
 
   // The reference list grows by a step that is multiplied by 8 whenever the number of
   // references passes 8 steps (2, 16, 128, ...), so heavily shared entities do not pay for
   // many small reallocations.
-  int pointer_list_increment() const { return 2 << (3 * m_increment_power); }
+  int pointer_list_increment() const { return 2 << (3 * (m_listed ? list()->increment_power : 0)); }
   int pointer_list_capacity() const { return m_listed ? list()->capacity : 1; }
 
  private:
@@ -67,11 +67,14 @@ class igsObjectManager {
   using Slot = std::uintptr_t;
   static Slot hole(int next) { return (static_cast<Slot>(next + 1) << 1) | 1u; }
   static int next_hole(Slot slot) { return static_cast<int>(slot >> 1) - 1; }
-  // A grown list: its counts, followed in the same block by its slots.
+  // A grown list: its counts and the power of 8 of its increment, followed in the same block
+  // by its slots.
   struct alignas(Slot) List {
     int size;
     int capacity;
     int first_hole;
+    int num_references;
+    int increment_power;
     Slot* slots() { return reinterpret_cast<Slot*>(this + 1); }
   };
   List* list() const { return reinterpret_cast<List*>(m_word); }
@@ -83,16 +86,14 @@ class igsObjectManager {
   void move_pointer(int location, igsObjectPtr* ptr);
   int grow();
 
-  // The fields of eight bytes first, then those of four, then the flags and the power of 8 of
-  // the increment in one byte each, so that no padding parts them: a file holds one manager
-  // per entity.
+  // The fields of eight bytes first, then the location, then the flags in one byte each: 24
+  // bytes with no padding, as a file holds one manager per entity. What only a grown list
+  // needs stands in the list.
   igsFile* m_file = nullptr;
   Slot m_word = 0; // the one reference, or 0; once listed, the address of the list
   int m_system_location = -1;
-  int m_num_references = 0;
   std::uint8_t m_visited = 0;
   std::uint8_t m_validated = 0;
-  std::uint8_t m_increment_power = 0;
   std::uint8_t m_is_entity = 0; // part of an igsObject
   std::uint8_t m_listed = 0;
 };
