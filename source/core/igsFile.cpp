@@ -16,6 +16,7 @@ igsFile::igsFile() : m_forward_references(4, 50) {
 igsFile::~igsFile() {
   igsObjectSystem::file_deleted(this);
   remove_forward_references();
+  m_closing = 1;
   for (int location = 0; location < m_table.size(); ++location)
     if (igsObjectManager* manager = slot(location)) delete manager->object();
 }
@@ -48,7 +49,7 @@ void igsFile::object_deleted(igsObject* object) {
   igsObjectManager* manager = object;
   int location = manager->system_location();
   m_table[location] = nullptr;
-  m_free_slots.insert_first(location);
+  if (!m_closing) m_free_slots.insert_first(location); // a closing file makes nothing more
   --m_manager_count;
   --m_num_entities;
   manager->drop_references(); // every reference to the entity is null from here

@@ -173,6 +173,7 @@ class igsFile {
   // those given their parameter data, and the Null and Unknown ones made.
   int m_entities_read = 0;
   int m_entities_to_drop = 0;
+  int m_closing = 0; // set while the destructor deletes the entities
   int m_num_unknowns = 0;
 };
 

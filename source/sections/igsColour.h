@@ -14,9 +14,9 @@ class igsColour : public igsDefinitionValue {
   using DefinitionNameReader = utString (*)(igsObject const& definition);
 
   // No colour assigned.
-  igsColour() : igsDefinitionValue(igsObjectPtr(), igsNoColour) {}
+  igsColour() : igsDefinitionValue(0, igsNoColour) {}
   // A negative value is a definition, bound to DE number -value; the value is kept either way.
-  explicit igsColour(int value) : igsDefinitionValue(definition_of_field(value), value) {}
+  explicit igsColour(int value) : igsDefinitionValue(value, value) {}
 
   void become(igsColour const& other) { igsDefinitionValue::become(other); }
 

@@ -13,13 +13,6 @@ igsObjectPtr igsDefinitionValue::definition_of_field(int field) {
   return igsObjectPtr(-field);
 }
 
-igsDefinitionValue::igsDefinitionValue(igsObjectPtr const& definition, int value)
-    : m_word(predefined_word(value)) {
-  if (definition.bound())
-    if (Defined* d = new (std::nothrow) Defined{definition, value})
-      m_word = reinterpret_cast<std::uintptr_t>(d);
-}
-
 igsObjectPtr const& igsDefinitionValue::definition() const {
   static igsObjectPtr const none;
   Defined const* d = defined();

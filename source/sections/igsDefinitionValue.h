@@ -49,9 +49,12 @@ class igsDefinitionValue {
   void unreference_children();
 
  protected:
-  // A reference bound to a DE number (even one without an entity yet) is kept with the value;
-  // if there is no memory for it, the value stands alone.
-  igsDefinitionValue(igsObjectPtr const& definition, int value);
+  // The value of a D line field. A negative field is bound to DE number -field (even one
+  // without an entity yet) and kept with the value; if there is no memory for it, the value
+  // stands alone.
+  igsDefinitionValue(int field, int value) : m_word(predefined_word(value)) {
+    if (field < 0) store(definition_of_field(field), value);
+  }
 
   void become(igsDefinitionValue const& other);
   // Stores the number and drops the definition.

@@ -13,11 +13,10 @@ class igsLevel : public igsDefinitionValue {
   static constexpr int max_level = 99999999;
 
   // Level 0.
-  igsLevel() : igsDefinitionValue(igsObjectPtr(), 0) {}
+  igsLevel() : igsDefinitionValue(0, 0) {}
   // A negative value is a level list, bound to DE number -value, with value 0; any other is
   // the level number.
-  explicit igsLevel(int value)
-      : igsDefinitionValue(definition_of_field(value), value < 0 ? 0 : value) {}
+  explicit igsLevel(int value) : igsDefinitionValue(value, value < 0 ? 0 : value) {}
 
   void become(igsLevel const& other) { igsDefinitionValue::become(other); }
 

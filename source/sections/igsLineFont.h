@@ -11,9 +11,9 @@ class utOstream;
 class igsLineFont : public igsDefinitionValue {
  public:
   // Solid, with no definition.
-  igsLineFont() : igsDefinitionValue(igsObjectPtr(), igsSolid) {}
+  igsLineFont() : igsDefinitionValue(0, igsSolid) {}
   // A negative value is a definition, bound to DE number -value; the value is kept either way.
-  explicit igsLineFont(int value) : igsDefinitionValue(definition_of_field(value), value) {}
+  explicit igsLineFont(int value) : igsDefinitionValue(value, value) {}
 
   void become(igsLineFont const& other) { igsDefinitionValue::become(other); }
 
