@@ -31,10 +31,11 @@ class igsEdge {
   void unreference_children();
 
  private:
+  // Each offset stands in the tail padding of its list's reference.
   igsObjectPtr m_curve;
-  igsObjectPtr m_first_list;
-  igsObjectPtr m_second_list;
+  [[no_unique_address]] igsObjectPtr m_first_list;
   int m_first_offset = igs_unset_int;
+  [[no_unique_address]] igsObjectPtr m_second_list;
   int m_second_offset = igs_unset_int;
 };
 using igsEdgecoDynArr = coDynArr<igsEdge>;

@@ -20,7 +20,8 @@ class igsHalfEdge {
   void unreference_children() { m_curve.unreference(); }
 
  private:
-  igsObjectPtr m_curve;
+  // The flag stands in the reference's tail padding, as in the records below.
+  [[no_unique_address]] igsObjectPtr m_curve;
   int m_isoparametric = igs_unset_int;
 };
 using igsHalfEdgecoDynArr = coDynArr<igsHalfEdge>;
@@ -51,9 +52,7 @@ class igsOrientedEdge : private igsHalfEdgeExactArr {
   void set_num_half_edges(int) {}
   // Stores the half edge, growing the list to index + 1; 0 for a negative index or when the
   // list could not grow.
-  int set_half_edge(int index, igsHalfEdge half_edge) {
-    return store(index, std::move(half_edge));
-  }
+  int set_half_edge(int index, igsHalfEdge half_edge) { return store(index, std::move(half_edge)); }
   // Takes the half edges of the list in place of its own; 0 when there was no memory.
   int set_half_edges(igsHalfEdgecoDynArr& half_edges) { return take(half_edges); }
   // 1 when the list is an edge list with type 0 or a vertex list with type 1, the index lies
@@ -64,8 +63,8 @@ class igsOrientedEdge : private igsHalfEdgeExactArr {
   void unreference_children();
 
  private:
+  [[no_unique_address]] igsObjectPtr m_list;
   int m_edge_type = igs_unset_int;
-  igsObjectPtr m_list;
   int m_list_index = igs_unset_int;
   int m_orientation = igs_unset_int;
 };

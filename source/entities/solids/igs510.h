@@ -33,7 +33,7 @@ class igs510 : public igsBrepEntity<igsObject> {
   void unreference_children() override;
 
  private:
-  igsObjectPtr m_surface;
+  [[no_unique_address]] igsObjectPtr m_surface; // the flag stands in its tail padding
   int m_outer_loop = igs_unset_int;
   igsObjectPtrcoDynArr m_loops;
   int m_orientation = igs_unset_int;

@@ -35,8 +35,9 @@ class igs142 : public igsOnSurface<igsObject> {
   void unreference_children() override;
 
  private:
+  // Each number stands in the tail padding of the reference before it.
+  [[no_unique_address]] igsObjectPtr m_curve_2d;
   int m_creation = igs142CreationUnspecified;
-  igsObjectPtr m_curve_2d;
-  igsObjectPtr m_curve_3d;
+  [[no_unique_address]] igsObjectPtr m_curve_3d;
   int m_preferred = igs142PreferUnspecified;
 };

@@ -33,7 +33,7 @@ class igs144 : public igsOnSurface<igsObject> {
   void unreference_children() override;
 
  private:
+  [[no_unique_address]] igsObjectPtr m_outer; // the flag stands in its tail padding
   int m_outer_flag = 1;
-  igsObjectPtr m_outer;
   igsObjectPtrcoDynArr m_inner;
 };
