@@ -305,44 +305,57 @@ int igsDirectoryEntry::set_entity_label(utString const& label) {
 
 int igsDirectoryEntry::set_entity_subscript(int subscript) {
   if (subscript < 0) return 0;
-  m_entity_subscript = subscript;
+  set_number(m_entity_subscript, &Links::entity_subscript, subscript);
   return 1;
 }
 
 int igsDirectoryEntry::set_line_weight_number(int number) {
   if (number < 0) return 0;
-  m_line_weight_number = number;
+  set_number(m_line_weight_number, &Links::line_weight_number, number);
   return 1;
 }
 
 int igsDirectoryEntry::set_form_number(int form) {
   if (!igsInfoDB::form_exists(m_entity_type, form)) return 0;
-  m_form_number = form;
+  set_number(m_form_number, &Links::form_number, form);
   return 1;
+}
+
+// A number that does not fit two bytes goes to the links; if there is no memory for them, the
+// nearest that fits stands in its place.
+void igsDirectoryEntry::set_number(std::int16_t& narrow, int Links::*wide, int value) {
+  if (value > in_links && value <= INT16_MAX) {
+    narrow = static_cast<std::int16_t>(value);
+  } else if (Links* l = links()) {
+    l->*wide = value;
+    narrow = in_links;
+  } else {
+    narrow = value < 0 ? in_links + 1 : INT16_MAX;
+  }
 }
 
 void igsDirectoryEntry::become(igsDirectoryEntry const& other) {
   if (this == &other) return;
-  m_structure = other.m_structure;
   m_line_font.become(other.m_line_font);
   m_level.become(other.m_level);
   if (!other.m_links)
     m_links.reset();
   else if (Links* l = links())
     *l = *other.m_links;
+  // The numbers after the links, which may hold them.
+  set_number(m_structure, &Links::structure, other.structure());
+  set_number(m_line_weight_number, &Links::line_weight_number, other.line_weight_number());
+  set_number(m_form_number, &Links::form_number, other.form_number());
+  set_number(m_entity_subscript, &Links::entity_subscript, other.entity_subscript());
   m_status_flags = other.m_status_flags;
-  m_line_weight_number = other.m_line_weight_number;
   m_colour.become(other.m_colour);
-  m_form_number = other.m_form_number;
   m_entity_label = other.m_entity_label;
-  m_entity_subscript = other.m_entity_subscript;
   m_parameter_line_count = other.m_parameter_line_count;
   m_start_of_parameter_data = other.m_start_of_parameter_data;
 }
 
 void igsDirectoryEntry::set_fields(igsDirectoryFields const& f) {
   m_start_of_parameter_data = f.parameter_data;
-  m_structure = f.structure;
   m_line_font = igsLineFont(f.line_font);
   m_level = igsLevel(f.level);
   if (f.view <= 0 && f.matrix <= 0 && f.label_display <= 0) {
@@ -352,13 +365,15 @@ void igsDirectoryEntry::set_fields(igsDirectoryFields const& f) {
     l->matrix = igsObjectPtr(f.matrix);
     l->label_display = igsObjectPtr(f.label_display);
   }
+  // The numbers after the links, which may hold them.
+  set_number(m_structure, &Links::structure, f.structure);
+  set_number(m_line_weight_number, &Links::line_weight_number, f.line_weight_number);
+  set_number(m_form_number, &Links::form_number, f.form_number);
+  set_number(m_entity_subscript, &Links::entity_subscript, f.entity_subscript);
   m_status_flags = igsStatusFlags(f.blank_status, f.subordinate_status, f.entity_use, f.hierarchy);
-  m_line_weight_number = f.line_weight_number;
   m_colour = igsColour(f.colour);
   m_parameter_line_count = f.parameter_line_count;
-  m_form_number = f.form_number;
   m_entity_label = f.entity_label.is_null() ? no_label() : f.entity_label;
-  m_entity_subscript = f.entity_subscript;
 }
 
 namespace {
@@ -373,7 +388,7 @@ igsDirectoryFields igsDirectoryEntry::fields() const {
   igsDirectoryFields f;
   f.entity_type = f.second_entity_type = m_entity_type;
   f.parameter_data = m_start_of_parameter_data;
-  f.structure = m_structure;
+  f.structure = structure();
   f.line_font = m_line_font.field();
   f.level = m_level.field();
   f.view = de_number_of(view());
@@ -383,13 +398,13 @@ igsDirectoryFields igsDirectoryEntry::fields() const {
   f.subordinate_status = m_status_flags.subordinate_status_value();
   f.entity_use = m_status_flags.entity_use_value();
   f.hierarchy = m_status_flags.hierarchy_value();
-  f.line_weight_number = m_line_weight_number;
+  f.line_weight_number = line_weight_number();
   f.colour = m_colour.field();
   f.parameter_line_count = m_parameter_line_count;
-  f.form_number = m_form_number;
+  f.form_number = form_number();
   f.reserved = utString("");
   f.entity_label = m_entity_label;
-  f.entity_subscript = m_entity_subscript;
+  f.entity_subscript = entity_subscript();
   return f;
 }
 
@@ -422,7 +437,7 @@ void igsDirectoryEntry::print(utOstream& out) const {
          << (igsInfoDB::entity_exists(type) ? igsInfoDB::entity_name(type).c_str()
                                             : "UnknownEntity")
          << ")\n";
-  level1 << "Structure = " << m_structure << "\n";
+  level1 << "Structure = " << structure() << "\n";
   level1 << "LineFontPattern = " << m_line_font << "\n";
   level1 << "Level = " << m_level << "\n";
   level1 << (view() ? "View = Unsupported\n" : "View = AllViews\n");
@@ -435,15 +450,15 @@ void igsDirectoryEntry::print(utOstream& out) const {
   }
   level1 << "LabelDisplayAssociativity = Unsupported\n";
   level1 << m_status_flags << "\n";
-  level1 << "LineWeightNumber = " << m_line_weight_number << "\n";
+  level1 << "LineWeightNumber = " << line_weight_number() << "\n";
   level1 << "Colour = " << m_colour << "\n";
-  level1 << "FormNumber = " << m_form_number << "("
-         << (igsInfoDB::form_exists(type, m_form_number)
-                 ? igsInfoDB::form_name(type, m_form_number).c_str()
+  level1 << "FormNumber = " << form_number() << "("
+         << (igsInfoDB::form_exists(type, form_number())
+                 ? igsInfoDB::form_name(type, form_number()).c_str()
                  : "UnknownForm")
          << ")\n";
   level1 << "EntityLabel = \"" << m_entity_label << "\"\n";
-  level1 << "EntitySubscript = " << m_entity_subscript << "\n";
+  level1 << "EntitySubscript = " << entity_subscript() << "\n";
   out << "}\n";
 }
 

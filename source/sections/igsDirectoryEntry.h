@@ -9,6 +9,7 @@
 #include "sections/igsLineFont.h"
 #include "sections/igsStatusFlags.h"
 
+#include <cstdint>
 #include <memory>
 
 class igsInStream;
@@ -66,7 +67,7 @@ class igsDirectoryEntry {
   igsDirectoryEntry(igsDirectoryEntry const&) = delete;
   igsDirectoryEntry& operator=(igsDirectoryEntry const&) = delete;
 
-  int structure() const { return m_structure; }
+  int structure() const { return number(m_structure, &Links::structure); }
   igsLineFont const& line_font() const { return m_line_font; }
   igsLevel const& level() const { return m_level; }
   igsObjectPtr const& view() const { return m_links ? m_links->view : no_reference(); }
@@ -75,11 +76,13 @@ class igsDirectoryEntry {
     return m_links ? m_links->label_display : no_reference();
   }
   igsStatusFlags const& status_flags() const { return m_status_flags; }
-  int line_weight_number() const { return m_line_weight_number; }
+  int line_weight_number() const {
+    return number(m_line_weight_number, &Links::line_weight_number);
+  }
   igsColour const& colour() const { return m_colour; }
-  int form_number() const { return m_form_number; }
+  int form_number() const { return number(m_form_number, &Links::form_number); }
   utString const& entity_label() const { return m_entity_label; }
-  int entity_subscript() const { return m_entity_subscript; }
+  int entity_subscript() const { return number(m_entity_subscript, &Links::entity_subscript); }
   igsEntityType entity_type() const { return m_entity_type; }
   // The manager of the entity that holds this entry.
   igsObjectManager* manager() const;
@@ -107,7 +110,7 @@ class igsDirectoryEntry {
   int set_form_number(int form);
   // Stores nothing if there is no memory for the entry's references.
   void set_label_display(igsObjectPtr const& label_display);
-  void set_structure(int structure) { m_structure = structure; }
+  void set_structure(int structure) { set_number(m_structure, &Links::structure, structure); }
 
   // Copies every field but the entity type and the manager.
   void become(igsDirectoryEntry const& other);
@@ -141,20 +144,32 @@ class igsDirectoryEntry {
   friend class igsDEInvalidEntityUse;
   void set_entity_type_and_form(igsEntityType type, int form) {
     m_entity_type = type;
-    m_form_number = form;
+    set_number(m_form_number, &Links::form_number, form);
   }
   void set_start_of_parameter_data(int line) { m_start_of_parameter_data = line; }
   // The empty label that every new entry starts with, one text shared by all.
   static utString const& no_label();
   void set_parameter_line_count(int count) { m_parameter_line_count = count; }
 
-  // The references to a view, a matrix and a label display, which few entities have: kept
-  // apart from the entry, and made when the first of them is set.
+  // The references to a view, a matrix and a label display, which few entities have, and the
+  // numbers too large for the entry: kept apart from the entry, and made when the first of
+  // them is set.
   struct Links {
     igsObjectPtr view;
     igsObjectPtr matrix;
     igsObjectPtr label_display;
+    int structure = 0;
+    int line_weight_number = 0;
+    int form_number = 0;
+    int entity_subscript = 0;
   };
+  // The structure, line weight, form and subscript numbers are nearly always small: each is
+  // kept in two bytes, or, marked there, in the links.
+  static constexpr std::int16_t in_links = INT16_MIN;
+  int number(std::int16_t narrow, int Links::*wide) const {
+    return narrow == in_links ? m_links.get()->*wide : narrow;
+  }
+  void set_number(std::int16_t& narrow, int Links::*wide, int value);
   // The entry's references, made if need be; null if there was no memory for them.
   Links* links();
   // The null reference that an entry without references gives for each of them.
@@ -167,11 +182,11 @@ class igsDirectoryEntry {
   std::unique_ptr<Links> m_links;
   utString m_entity_label = no_label();
   igsStatusFlags m_status_flags;
-  int m_structure = 0;
-  int m_line_weight_number = 0;
-  int m_form_number = 0;
-  int m_entity_subscript = 0;
   igsEntityType m_entity_type = igsEntityTypeUnknown;
+  std::int16_t m_structure = 0;
+  std::int16_t m_line_weight_number = 0;
+  std::int16_t m_form_number = 0;
+  std::int16_t m_entity_subscript = 0;
   int m_parameter_line_count = 0;
   int m_start_of_parameter_data = 0;
 };

@@ -152,6 +152,18 @@ TEST_F(FileTest, DirectoryEntrySettersRefuseWhatTheyCannotHold) {
   EXPECT_EQ(de.line_weight_number(), 0);
   de.set_structure(-5);
   EXPECT_EQ(de.structure(), -5);
+  // Numbers as large as a field holds, at either end, are kept whole and copied whole.
+  for (int big : {32767, 32768, 99999999}) {
+    EXPECT_EQ(de.set_entity_subscript(big), 1);
+    EXPECT_EQ(de.set_line_weight_number(big + 1), 1);
+    de.set_structure(-big);
+    b->directory_entry().become(de);
+    for (igsDirectoryEntry const* e : {&de, &b->directory_entry()}) {
+      EXPECT_EQ(e->entity_subscript(), big);
+      EXPECT_EQ(e->line_weight_number(), big + 1);
+      EXPECT_EQ(e->structure(), -big);
+    }
+  }
 
   // The DE's references are dropped with the entity's children.
   auto* label = new testNode;
