@@ -323,6 +323,15 @@ int igsDirectoryEntry::set_form_number(int form) {
 
 // A number that does not fit two bytes goes to the links; if there is no memory for them, the
 // nearest that fits stands in its place.
+igsDirectoryEntry::Number const igsDirectoryEntry::numbers[4] = {
+    {&igsDirectoryEntry::m_structure, &Links::structure, &igsDirectoryFields::structure},
+    {&igsDirectoryEntry::m_line_weight_number, &Links::line_weight_number,
+     &igsDirectoryFields::line_weight_number},
+    {&igsDirectoryEntry::m_form_number, &Links::form_number, &igsDirectoryFields::form_number},
+    {&igsDirectoryEntry::m_entity_subscript, &Links::entity_subscript,
+     &igsDirectoryFields::entity_subscript},
+};
+
 void igsDirectoryEntry::set_number(std::int16_t& narrow, int Links::*wide, int value) {
   if (value > in_links && value <= INT16_MAX) {
     narrow = static_cast<std::int16_t>(value);
@@ -343,10 +352,8 @@ void igsDirectoryEntry::become(igsDirectoryEntry const& other) {
   else if (Links* l = links())
     *l = *other.m_links;
   // The numbers after the links, which may hold them.
-  set_number(m_structure, &Links::structure, other.structure());
-  set_number(m_line_weight_number, &Links::line_weight_number, other.line_weight_number());
-  set_number(m_form_number, &Links::form_number, other.form_number());
-  set_number(m_entity_subscript, &Links::entity_subscript, other.entity_subscript());
+  for (Number const& n : numbers)
+    set_number(this->*n.narrow, n.wide, other.number(other.*n.narrow, n.wide));
   m_status_flags = other.m_status_flags;
   m_colour.become(other.m_colour);
   m_entity_label = other.m_entity_label;
@@ -366,10 +373,7 @@ void igsDirectoryEntry::set_fields(igsDirectoryFields const& f) {
     l->label_display = igsObjectPtr(f.label_display);
   }
   // The numbers after the links, which may hold them.
-  set_number(m_structure, &Links::structure, f.structure);
-  set_number(m_line_weight_number, &Links::line_weight_number, f.line_weight_number);
-  set_number(m_form_number, &Links::form_number, f.form_number);
-  set_number(m_entity_subscript, &Links::entity_subscript, f.entity_subscript);
+  for (Number const& n : numbers) set_number(this->*n.narrow, n.wide, f.*n.field);
   m_status_flags = igsStatusFlags(f.blank_status, f.subordinate_status, f.entity_use, f.hierarchy);
   m_colour = igsColour(f.colour);
   m_parameter_line_count = f.parameter_line_count;
@@ -388,7 +392,6 @@ igsDirectoryFields igsDirectoryEntry::fields() const {
   igsDirectoryFields f;
   f.entity_type = f.second_entity_type = m_entity_type;
   f.parameter_data = m_start_of_parameter_data;
-  f.structure = structure();
   f.line_font = m_line_font.field();
   f.level = m_level.field();
   f.view = de_number_of(view());
@@ -398,13 +401,11 @@ igsDirectoryFields igsDirectoryEntry::fields() const {
   f.subordinate_status = m_status_flags.subordinate_status_value();
   f.entity_use = m_status_flags.entity_use_value();
   f.hierarchy = m_status_flags.hierarchy_value();
-  f.line_weight_number = line_weight_number();
   f.colour = m_colour.field();
   f.parameter_line_count = m_parameter_line_count;
-  f.form_number = form_number();
   f.reserved = utString("");
   f.entity_label = m_entity_label;
-  f.entity_subscript = entity_subscript();
+  for (Number const& n : numbers) f.*n.field = number(this->*n.narrow, n.wide);
   return f;
 }
 

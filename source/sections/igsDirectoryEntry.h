@@ -170,6 +170,13 @@ class igsDirectoryEntry {
     return narrow == in_links ? m_links.get()->*wide : narrow;
   }
   void set_number(std::int16_t& narrow, int Links::*wide, int value);
+  // Each such number: where the entry keeps it, where the links do, and its D line field.
+  struct Number {
+    std::int16_t igsDirectoryEntry::*narrow;
+    int Links::*wide;
+    int igsDirectoryFields::*field;
+  };
+  static Number const numbers[4];
   // The entry's references, made if need be; null if there was no memory for them.
   Links* links();
   // The null reference that an entry without references gives for each of them.
