@@ -12,26 +12,35 @@
 class igsIndexList {
  public:
   // The identity over `count` positions: entry i holds i. A negative count empties the list.
+  // The identity is kept as its count alone, until a repair moves a member.
   void reset(int count) {
     m_current.clear();
-    if (count > 0 && m_current.reserve(count))
-      for (int i = 0; i < count; ++i) m_current.append(i);
+    m_identity = count > 0 ? count : 0;
   }
-  int size() const { return m_current.size(); }
+  int size() const { return m_identity >= 0 ? m_identity : m_current.size(); }
   // The current position of the member read at `original`; -1 if it has gone or the position
   // was never read.
   int current(int original) const {
-    return original >= 0 && original < m_current.size() ? m_current[original] : -1;
+    if (original < 0 || original >= size()) return -1;
+    return m_identity >= 0 ? original : m_current[original];
   }
   // The position as read of the member now at `current`; -1 if no entry maps there.
   int original(int current) const {
+    if (m_identity >= 0) return current >= 0 && current < m_identity ? current : -1;
     for (int i = 0; i < m_current.size(); ++i)
       if (m_current[i] == current) return i;
     return -1;
   }
-  // Records where the member read at `original` is now, growing the list to hold it.
+  // Records where the member read at `original` is now, growing the list to hold it (with 0
+  // for the positions passed over).
   void set(int original, int current) {
-    if (original >= 0) m_current[original] = current;
+    if (original < 0) return;
+    if (m_identity >= 0) {
+      if (m_current.reserve(m_identity))
+        for (int i = 0; i < m_identity; ++i) m_current.append(i);
+      m_identity = -1;
+    }
+    m_current[original] = current;
   }
   // For each current position below `count`, the position as read (-1 where none maps), in
   // one pass.
@@ -39,13 +48,16 @@ class igsIndexList {
     intcoDynArr result;
     if (count > 0 && result.reserve(count))
       for (int i = 0; i < count; ++i) result.append(-1);
-    for (int i = 0; i < m_current.size(); ++i)
-      if (m_current[i] >= 0 && m_current[i] < result.size()) result[m_current[i]] = i;
+    for (int i = 0; i < size(); ++i) {
+      int at = current(i);
+      if (at >= 0 && at < result.size()) result[at] = i;
+    }
     return result;
   }
 
  private:
-  intcoDynArr m_current;
+  [[no_unique_address]] intcoDynArr m_current; // written out once a member has moved
+  int m_identity = 0; // the count of an identity list, or -1 once written out
 };
 
 // Keeps the members of the list for which `keep(member)` is true, in order, and records in

@@ -154,12 +154,13 @@ class igsDirectoryEntry {
   // The references to a view, a matrix and a label display, which few entities have, and the
   // numbers too large for the entry: kept apart from the entry, and made when the first of
   // them is set.
+  // Three numbers stand in the tail padding of the references, so the block takes 56 bytes.
   struct Links {
-    igsObjectPtr view;
-    igsObjectPtr matrix;
-    igsObjectPtr label_display;
+    [[no_unique_address]] igsObjectPtr view;
     int structure = 0;
+    [[no_unique_address]] igsObjectPtr matrix;
     int line_weight_number = 0;
+    [[no_unique_address]] igsObjectPtr label_display;
     int form_number = 0;
     int entity_subscript = 0;
   };
