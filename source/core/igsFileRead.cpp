@@ -116,21 +116,29 @@ int igsFile::read_parameter_data_section(igsInStream& in) {
     // every entity whose parent came first a second one for the time of its read.
     igsObject* current =
         backpointer > 0 && backpointer % 2 == 1 ? object_at((backpointer - 1) / 2) : nullptr;
-    if (!current) {
-      // Lines of no entity are passed over.
+    // Lines of no entity are passed over, and so is a second record of an entity: the first
+    // one it had stands, whatever its class.
+    auto pass_over = [&] {
       while (in.backpointer() == backpointer && igs_stream_section(in) == igsSectionParameter &&
              !in.fatal_error())
         in.skip_line();
-      if (!in.reset()) break;
+      return in.reset();
+    };
+    if (!current) {
+      if (!pass_over()) break;
       continue;
     }
     int lines_before = in.num_lines(igsSectionParameter);
     int start_in_de = current->directory_entry().start_of_parameter_data();
     if (start_in_de != line)
       tag_error(new (std::nothrow) igsFileIncorrectStartOfPD(backpointer, line, start_in_de));
+    int read_before = current->manager()->visited();
+    if (read_before) {
+      if (!pass_over()) break;
+      continue;
+    }
     int bad_line_numbers = 0;
     int blank_lines = 0;
-    int read_before = current->manager()->visited();
     int sound = current->read(in, bad_line_numbers, blank_lines);
     if (bad_line_numbers) m_invalid_line_numbers = 1;
     if (blank_lines) m_blank_line = 1;
@@ -147,7 +155,7 @@ int igsFile::read_parameter_data_section(igsInStream& in) {
       break;
     }
     // Counted once it stands for good: a count short of the entities only costs a walk.
-    if (!read_before && current->manager()->visited()) ++m_entities_read;
+    if (current->manager()->visited()) ++m_entities_read;
     // The last record ends on the T line: the Terminate count makes its count come out right.
     int lines_used =
         in.num_lines(igsSectionParameter) + in.num_lines(igsSectionTerminate) - lines_before;

@@ -122,6 +122,18 @@ TEST_F(ReadTest, StartAndCountOfParameterLinesAreComparedWithTheDirectoryEntry) 
   EXPECT_EQ(repaired(), "");
 }
 
+// A record that names an entity read already is passed over: the first one stands.
+TEST_F(ReadTest, ASecondRecordOfAnEntityIsPassedOver) {
+  FileText twice;
+  int first = twice.add(116, 0, {"116,1.,2.,3.;"});
+  twice.add(116, 0, {"116,4.,5.,6.;"});
+  twice.entity(twice.add(116, 0, {"116,7.,8.,9.;"})).backpointer = first;
+  ASSERT_EQ(read(twice.text()), 1);
+  EXPECT_EQ(errors(), (Lines{"igsFileIncorrectStartOfPD(de_number=1,line_found=3,line_in_de=1)",
+                             "igsFileNoPDData(de_number=5)"}));
+  EXPECT_EQ(entity<igs116>(first)->point(), giPoint3(1, 2, 3));
+}
+
 TEST_F(ReadTest, ReferencesBindForwardAndToNothing) {
   FileText f;
   // Display symbols: the next entity, an entity that is never made, a Null entity, and an
