@@ -27,6 +27,7 @@ igsObjectSystem::~igsObjectSystem() {
   m_file_free_list = nullptr;
   m_system_on_line = 0;
   m_current_file = 0;
+  m_current = nullptr;
   m_num_files = 0;
 }
 
@@ -46,10 +47,16 @@ static int current_slot(igsFilecoDynArrPtrcoPtrcoDynArr const& files, int curren
   return current >= 0 && current < files.size() && files[current] ? current : -1;
 }
 
-igsFile& igsObjectSystem::file() {
+igsFile& igsObjectSystem::make_current() {
   initialize_system();
   if (current_slot(*m_file_list, m_current_file) < 0) new (std::nothrow) igsFile;
   return *(*m_file_list)[m_current_file];
+}
+
+void igsObjectSystem::refresh_current() {
+  m_current = m_system_on_line && current_slot(*m_file_list, m_current_file) >= 0
+                  ? (*m_file_list)[m_current_file]
+                  : nullptr;
 }
 
 igsErrorLog& igsObjectSystem::log() {
@@ -62,6 +69,7 @@ void igsObjectSystem::set_current_file(igsFile const& file) {
   int slot = file.system_location();
   if (slot >= 0 && slot < m_file_list->size() && (*m_file_list)[slot] == &file)
     m_current_file = slot;
+  refresh_current();
 }
 
 void igsObjectSystem::get_all_files(igsFilecoDynArrPtrcoPtrcoDynArr& files) {
@@ -88,6 +96,7 @@ void igsObjectSystem::file_created(igsFile* file) {
   file->set_system_location(slot);
   ++m_num_files;
   m_current_file = slot;
+  refresh_current();
 }
 
 void igsObjectSystem::file_deleted(igsFile* file) {
@@ -108,6 +117,7 @@ void igsObjectSystem::file_deleted(igsFile* file) {
         break;
       }
   }
+  refresh_current();
 }
 
 void igsObjectSystem::object_created(igsObject* object) {

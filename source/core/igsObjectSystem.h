@@ -23,7 +23,7 @@ class igsObjectSystem {
   igsObjectSystem& operator=(igsObjectSystem const&) = delete;
 
   // The current file and its log.
-  static igsFile& file();
+  static igsFile& file() { return m_current ? *m_current : make_current(); }
   static igsErrorLog& log();
   // Makes the file current; a file that is not open is ignored.
   static void set_current_file(igsFile const& file);
@@ -46,6 +46,10 @@ class igsObjectSystem {
   friend class igsTerminateError;
 
   static void initialize_system();
+  // The current file, made first if there is none.
+  static igsFile& make_current();
+  // Points m_current at the file in the current slot, or at none.
+  static void refresh_current();
   static void file_created(igsFile* file);
   static void file_deleted(igsFile* file);
   static void object_created(igsObject* object);
@@ -56,6 +60,7 @@ class igsObjectSystem {
   static inline igsErrorLogPtrcoDynArr* m_error_log_list = nullptr;
   static inline intcoStack* m_file_free_list = nullptr;
   static inline int m_current_file = 0;
+  static inline igsFile* m_current = nullptr; // the file in slot m_current_file, if any
   static inline int m_system_on_line = 0;
   static inline int m_recurse_depth = 0;
   static inline int m_num_files = 0;

@@ -8,20 +8,23 @@ igsInStream::~igsInStream() = default;
 
 // The integer, string, Hollerith and real decoders in turn: codes of the filler and the
 // checker come with the first, and a fatal one again with each. All stand where the cursor
-// stands, so the list is stamped once.
+// stands, so the list is stamped once. While the filler and the checker hold no code, each
+// decoder's codes are taken straight: most records leave a code in one decoder alone (that a
+// field held a value).
 void igsInStream::collect_errors() {
   m_errors.shrink(0);
   m_collected = 1;
-  if (!has_codes() && !m_int.has_codes() && !m_string.has_codes() && !m_holerith.has_codes() &&
-      !m_real.has_codes()) {
-    configure_for_decode(&m_real); // where the loop below leaves it
-    return;                        // the common case: nothing to collect
-  }
+  int buffer_codes = has_codes();
   igsDecoder* decoders[] = {&m_int, &m_string, &m_holerith, &m_real};
   for (igsDecoder* decoder : decoders) {
+    if (!buffer_codes) {
+      decoder->collect_errors(m_errors);
+      continue;
+    }
     configure_for_decode(decoder);
     append_errors(m_errors);
   }
+  configure_for_decode(&m_real);
   stamp_errors(m_errors);
 }
 
