@@ -80,15 +80,15 @@ constexpr int label_field_width = 24; // the reserved columns and the label
 
 // The blanks at the start of a field; eight columns are looked at in one go.
 int leading_blanks(char const* text, int width) {
+  int i = 0;
   if constexpr (std::endian::native == std::endian::little) {
-    if (width == 8) {
+    for (; i + 8 <= width; i += 8) {
       std::uint64_t word = 0;
-      std::memcpy(&word, text, sizeof word);
+      std::memcpy(&word, text + i, sizeof word);
       std::uint64_t other = word ^ 0x2020202020202020u; // zero bytes where blanks stand
-      return other ? std::countr_zero(other) / 8 : 8;
+      if (other) return i + std::countr_zero(other) / 8;
     }
   }
-  int i = 0;
   while (i < width && text[i] == ' ') ++i;
   return i;
 }
@@ -96,7 +96,7 @@ int leading_blanks(char const* text, int width) {
 // Eight columns of blanks and then digits, converted in one go, with the first column in the
 // lowest byte of the word: blanks become zeros, every byte is tested for a digit at once, and
 // pairs, fours and eights of digits are joined by three multiplications. 0 for anything else.
-int eight_digits(char const* text, int& value) {
+[[gnu::always_inline]] inline int eight_digits(char const* text, int& value) {
   std::uint64_t word = 0;
   std::memcpy(&word, text, sizeof word);
   std::uint64_t other = word ^ 0x2020202020202020u;
@@ -162,6 +162,18 @@ Column const* read_plain_fields(igsInStream& in, Column const* c, Column const* 
   int room = in.capacity() - 8 - column;
   int used = 0;
   for (; c != end && used + c->width <= room; ++c) {
+    // The four status numbers of two columns each, when their eight columns are blanks and
+    // then digits, are the pairs of digits of that one number: one conversion gives them all.
+    if constexpr (std::endian::native == std::endian::little) {
+      int all = 0;
+      if (c->kind == Kind::status && end - c >= 4 && used + 8 <= room &&
+          eight_digits(text + used, all)) {
+        for (int i = 3; i >= 0; --i, all /= 100) fields.*c[i].number = all % 100;
+        c += 3;
+        used += 8;
+        continue;
+      }
+    }
     if (c->number ? !plain_number(text + used, c->width, fields.*c->number)
                   : !blank_text(text + used, c->width, fields.*c->text))
       break;
