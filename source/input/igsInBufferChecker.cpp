@@ -38,8 +38,21 @@ int igsInBufferChecker::check(igsInBuffer& buffer, int& data_end) {
     ++m_line_number;
     ++m_line_counts[m_section];
     m_expected_valid = advance_expected();
+    foretell_next_entity();
     data_end = this->data_end(m_section);
     return 1;
+  }
+  // So do records that open the next entity, but for the end of the last one they mark.
+  if (m_size == record_width && opens_next_entity(m_text)) {
+    ++m_line_number;
+    ++m_line_counts[m_section];
+    m_backpointer += 2;
+    set_error(igsIOEntityEnd);
+    std::memcpy(m_expected, m_next_entity, sizeof m_next_entity);
+    m_expected_valid = advance_expected();
+    foretell_next_entity();
+    data_end = this->data_end(m_section);
+    return 0;
   }
   igsFileSection section = igsSectionNone;
   int line = 0;
@@ -52,7 +65,11 @@ int igsInBufferChecker::check(igsInBuffer& buffer, int& data_end) {
   m_line_number = line;
   m_backpointer = backpointer;
   m_expected_valid = 0;
-  if (syntax && semantics && m_errors.line_codes() == 0) expect_next(parsed_line);
+  m_next_entity_valid = 0;
+  // A sound record foretells the next one; so does one whose only fault is that it opens a
+  // new entity.
+  unsigned sound = semantics ? 0u : igsIOCodeList::bit(igsIOEntityEnd);
+  if (syntax && m_errors.line_codes() == sound) expect_next(parsed_line);
   if (section != igsSectionNone) {
     ++m_line_counts[section];
     data_end = this->data_end(section);
@@ -71,23 +88,41 @@ void igsInBufferChecker::expect_next(int parsed_line) {
   std::memcpy(m_expected, m_text + separator_column, sizeof m_expected);
   m_expected_parameter = parameter;
   m_expected_valid = advance_expected();
+  foretell_next_entity();
 }
+
+namespace {
+
+// Adds `step` (1 or 2) to the number that the digits of a field hold, written in place as it
+// was written: a blank in front of the digits counts as 0 and takes the digit it gets. 0 when
+// there is no room for another digit.
+int count_on(char* digits, int width, int step) {
+  for (int i = width - 1; i >= 0; --i) {
+    int digit = (digits[i] == ' ' ? 0 : digits[i] - '0') + step;
+    if (digit < 10) {
+      digits[i] = static_cast<char>('0' + digit);
+      return 1;
+    }
+    digits[i] = static_cast<char>('0' + digit - 10);
+    step = 1;
+  }
+  return 0;
+}
+
+} // namespace
 
 // Counts the foretold sequence number on by one; 0 when it has no room for another digit.
 int igsInBufferChecker::advance_expected() {
-  char* digits = m_expected + (record_width - field_width - separator_column);
-  for (int i = field_width - 1; i >= 0; --i) {
-    if (digits[i] == ' ') {
-      digits[i] = '1';
-      return 1;
-    }
-    if (digits[i] != '9') {
-      ++digits[i];
-      return 1;
-    }
-    digits[i] = '0';
-  }
-  return 0;
+  return count_on(m_expected + (record_width - field_width - separator_column), field_width, 1);
+}
+
+// In the Parameter section, the foretold record of the next entity: the same line, with the
+// back pointer counted on to the next DE number.
+void igsInBufferChecker::foretell_next_entity() {
+  m_next_entity_valid = 0;
+  if (!m_expected_valid || !m_expected_parameter) return;
+  std::memcpy(m_next_entity, m_expected, sizeof m_next_entity);
+  m_next_entity_valid = count_on(m_next_entity + 1, field_width, 2);
 }
 
 // Where the data of a record ends. Global and Parameter lines get a newline there, so that a

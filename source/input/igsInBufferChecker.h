@@ -43,6 +43,13 @@ class igsInBufferChecker {
     if (!m_expected_valid || igs_load8(record + 72) != igs_load8(m_expected + 8)) return 0;
     return !m_expected_parameter || igs_load8(record + 64) == igs_load8(m_expected);
   }
+  // Whether an 80-column Parameter record opens the entity whose DE number follows the last
+  // one's, on the next line, written as the last record was: it passes every check, and ends
+  // the last entity's data as any new back pointer does.
+  int opens_next_entity(char const* record) const {
+    return m_next_entity_valid && igs_load8(record + 72) == igs_load8(m_expected + 8) &&
+           igs_load8(record + 64) == igs_load8(m_next_entity);
+  }
 
  private:
   void cache_buffer_attribs(igsInBuffer& buffer);
@@ -62,6 +69,7 @@ class igsInBufferChecker {
   void set_error(igsIOErrorCode code);
   void expect_next(int parsed_line);
   int advance_expected();
+  void foretell_next_entity();
   char* m_text = nullptr;
   int m_size = 0;
   int m_line_counts[igsSectionNone] = {};
@@ -74,4 +82,7 @@ class igsInBufferChecker {
   char m_expected[16];
   int m_expected_valid = 0;
   int m_expected_parameter = 0;
+  // Columns 65 to 72 of a Parameter record that opens the next entity on the line foretold.
+  char m_next_entity[8];
+  int m_next_entity_valid = 0;
 };

@@ -194,7 +194,9 @@ int igsInBufferFiller::take_whole_record(charcoDynArr& line, igsInBufferChecker 
   std::uint64_t control = 0;
   for (int i = 0; i < record_width; i += 8) control |= any_below(igs_load8(p + i), ' ');
   if (control) return 0;
-  if (!checker.continues_as_expected(p) && !formatted_record(p, record_width)) return 0;
+  if (!checker.continues_as_expected(p) && !checker.opens_next_entity(p) &&
+      !formatted_record(p, record_width))
+    return 0;
   // The record is kept: whether the next line continues it is asked only if that line needs
   // repair. Both copies have a size known here, which makes them a few moves.
   m_line.cut(0);
