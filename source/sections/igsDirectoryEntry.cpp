@@ -14,6 +14,7 @@
 #include <cstring>
 #include <iterator>
 #include <new>
+#include <utility>
 
 // The two D lines
 
@@ -79,7 +80,7 @@ static_assert(lines_are_full(), "the D line layout fills two lines of 72 columns
 constexpr int label_field_width = 24; // the reserved columns and the label
 
 // The blanks at the start of a field; eight columns are looked at in one go.
-int leading_blanks(char const* text, int width) {
+[[gnu::always_inline]] inline int leading_blanks(char const* text, int width) {
   int i = 0;
   if constexpr (std::endian::native == std::endian::little) {
     for (; i + 8 <= width; i += 8) {
@@ -120,7 +121,7 @@ int leading_blanks(char const* text, int width) {
 // A number field in its usual form, from its text: blanks, then an optional sign and digits up
 // to its last column, or blanks alone. Both give what the fixed-width read gives them (0 for
 // blanks), without its machinery; 0 is returned for any other field.
-int plain_number(char const* text, int width, int& value) {
+[[gnu::always_inline]] inline int plain_number(char const* text, int width, int& value) {
   if constexpr (std::endian::native == std::endian::little) {
     if (width == 8 && eight_digits(text, value)) return 1;
   }
@@ -147,6 +148,72 @@ int blank_text(char const* text, int width, utString& value) {
   return 1;
 }
 
+// Where column C of the layout starts within its line.
+constexpr int line_offset(int index) {
+  int offset = 0;
+  for (int i = 0; i < index; ++i) offset += layout[i].width;
+  return offset % 72;
+}
+
+// The four status numbers of two columns each, when their eight columns are blanks and then
+// digits, are the pairs of digits of that one number: one conversion gives them all.
+[[gnu::always_inline]] inline int status_numbers(char const* text, Column const* c,
+                                                 Fields& fields) {
+  if constexpr (std::endian::native == std::endian::little) {
+    int all = 0;
+    if (!eight_digits(text, all)) return 0;
+    for (int i = 3; i >= 0; --i, all /= 100) fields.*c[i].number = all % 100;
+    return 1;
+  }
+  return 0;
+}
+
+// Reads column C of the layout from the text of its line as a plain field; 0 if it is not one.
+// The first status column reads all four when it can.
+template <int C> int plain_column(char const* line, Fields& fields) {
+  constexpr Column c = layout[C];
+  char const* text = line + line_offset(C);
+  if constexpr (c.kind == Kind::status) {
+    if constexpr (layout[C - 1].kind != Kind::status) {
+      if (status_numbers(text, layout + C, fields)) return 1;
+      int sound = 1;
+      for (int i = 0; i < 4; ++i)
+        sound &= plain_number(text + 2 * i, 2, fields.*layout[C + i].number);
+      return sound;
+    }
+    return 1;
+  } else if constexpr (c.number != nullptr) {
+    return plain_number(text, c.width, fields.*c.number);
+  } else {
+    return blank_text(text, c.width, fields.*c.text);
+  }
+}
+
+// Reads the columns First to Last - 1 of one line, each converted in place with its width and
+// offset known; 1 if all were plain. Every column is converted whatever the others gave.
+template <int First, int Last> int plain_columns(char const* line, Fields& fields) {
+  return [&]<int... I>(std::integer_sequence<int, I...>) {
+    return (plain_column<First + I>(line, fields) & ...);
+  }
+  (std::make_integer_sequence<int, Last - First>{});
+}
+
+// The columns of each line up to the subscript (which is read once the line's codes are
+// known): read in one go when the cursor stands at the first of them.
+struct Run {
+  Column const* first;
+  Column const* last;
+  int width;
+  int (*read)(char const* line, Fields& fields);
+};
+template <int First, int Last> constexpr Run run() {
+  int width = 0;
+  for (int i = First; i < Last; ++i) width += layout[i].width;
+  static_assert(line_offset(First) == 0, "a run starts its line");
+  return {layout + First, layout + Last, width, plain_columns<First, Last>};
+}
+constexpr Run runs[] = {run<0, 12>(), run<12, 19>()};
+
 // Reads fields of the layout from `c` on, straight from the line, while each is a plain number
 // or blank text and lies within the data of an unstopped D line, and no further than `end`:
 // the line is tested once for them all, and the cursor passes over them in one move. Returns
@@ -160,19 +227,20 @@ Column const* read_plain_fields(igsInStream& in, Column const* c, Column const* 
   if (in.frozen() || section != igsSectionDirectory) return c;
   char const* text = in();
   int room = in.capacity() - 8 - column;
+  for (Run const& run : runs) {
+    if (c == run.first && end >= run.last && column == 0 && room >= run.width &&
+        run.read(text, fields)) {
+      in.pass_over(static_cast<unsigned>(run.width));
+      return run.last;
+    }
+  }
   int used = 0;
   for (; c != end && used + c->width <= room; ++c) {
-    // The four status numbers of two columns each, when their eight columns are blanks and
-    // then digits, are the pairs of digits of that one number: one conversion gives them all.
-    if constexpr (std::endian::native == std::endian::little) {
-      int all = 0;
-      if (c->kind == Kind::status && end - c >= 4 && used + 8 <= room &&
-          eight_digits(text + used, all)) {
-        for (int i = 3; i >= 0; --i, all /= 100) fields.*c[i].number = all % 100;
-        c += 3;
-        used += 8;
-        continue;
-      }
+    if (c->kind == Kind::status && end - c >= 4 && used + 8 <= room &&
+        status_numbers(text + used, c, fields)) {
+      c += 3;
+      used += 8;
+      continue;
     }
     if (c->number ? !plain_number(text + used, c->width, fields.*c->number)
                   : !blank_text(text + used, c->width, fields.*c->text))
