@@ -26,6 +26,8 @@ void igsInStream::collect_errors() {
   }
   configure_for_decode(&m_real);
   stamp_errors(m_errors);
+  m_code_bits = 0;
+  for (igsIOError const& e : m_errors) m_code_bits |= igsIOCodeList::bit(e.error_type());
 }
 
 igsIOErrorcoDynArr const& igsInStream::errors() {
@@ -38,5 +40,6 @@ int igsInStream::error() {
 }
 
 int igsInStream::error_type(igsIOErrorCode code) {
-  return igs_has_io_error(errors(), code);
+  if (!m_collected) collect_errors();
+  return (m_code_bits & igsIOCodeList::bit(code)) != 0;
 }
