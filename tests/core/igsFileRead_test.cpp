@@ -122,6 +122,23 @@ TEST_F(ReadTest, StartAndCountOfParameterLinesAreComparedWithTheDirectoryEntry) 
   EXPECT_EQ(repaired(), "");
 }
 
+// The status field is four numbers of two columns each, whether all eight columns are digits
+// or some pair is not.
+TEST_F(ReadTest, TheStatusFieldIsReadAsFourPairsOfColumns) {
+  struct Row {
+    std::string status;
+    igsStatusFlags flags;
+  } const rows[] = {{"00010200", {0, 1, 2, 0}},
+                    {"12345678", {12, 34, 56, 78}},
+                    {"     103", {0, 0, 1, 3}},
+                    {" 1 2 3 4", {1, 2, 3, 4}}};
+  FileText f;
+  for (Row const& row : rows) f.entity(f.add(116, 0, {"116,1.,2.,3.;"})).status = row.status;
+  ASSERT_EQ(read(f.text()), 1);
+  for (int i = 0; i < 4; ++i)
+    EXPECT_EQ(entity<igs116>(2 * i + 1)->directory_entry().status_flags(), rows[i].flags) << i;
+}
+
 // A record that names an entity read already is passed over: the first one stands.
 TEST_F(ReadTest, ASecondRecordOfAnEntityIsPassedOver) {
   FileText twice;
