@@ -158,42 +158,6 @@ TEST_F(FixerTest, ChildrenAreRepairedFirstAndParentsSeeHowTheyFared) {
   EXPECT_EQ(object_log().num_errors(), 0);
 }
 
-TEST_F(FixerTest, WithFlagZeroAFailedRepairEndsOnlyItsEntitysErrors) {
-  fixerNode* stuck = node();
-  fixerNode* other = node();
-  stuck->raise<fixerObjectRepair>(11, 0);
-  stuck->raise<fixerObjectRepair>(12, 1);
-  other->raise<fixerObjectRepair>(21, 1);
-  fixer.fix(log(), 0);
-  EXPECT_EQ(sorted(fix_calls()), (std::vector<int>{11, 21}));
-  EXPECT_EQ(stuck->num_logged_errors(), 2);
-  EXPECT_EQ(other->num_logged_errors(), 0);
-
-  // With the flag set the later error runs, and only the failing one stays.
-  fix_calls().clear();
-  igsFixer again;
-  again.fix(log(), 1);
-  EXPECT_EQ(fix_calls(), (std::vector<int>{11, 12}));
-  EXPECT_EQ(stuck->num_logged_errors(), 1);
-}
-
-TEST_F(FixerTest, ACycleReachedFromARootIsCutWhereItClosesAndRun) {
-  // root -> a -> b -> a.
-  fixerNode* a = node();
-  fixerNode* b = node();
-  fixerNode* root = parent_of(a);
-  a->add_child(b);
-  a->raise_bad_child(0);
-  b->add_child(a);
-  b->raise_bad_child(0);
-  fixer.fix(log(), 1);
-  EXPECT_EQ(distance(fixer, root), 1);
-  EXPECT_EQ(distance(fixer, a), 2);
-  EXPECT_EQ(distance(fixer, b), 3);
-  EXPECT_EQ(fix_calls(), (std::vector<int>{b->de_number(), a->de_number(), root->de_number()}));
-  EXPECT_EQ(object_log().num_errors(), 0);
-}
-
 TEST_F(FixerTest, ANodeOfDENumberZeroStandsInForAChildThatHasGone) {
   fixerNode* parent = node();
   parent->add_child(igsObjectPtr());

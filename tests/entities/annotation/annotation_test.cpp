@@ -84,17 +84,6 @@ TEST(Annotation, TheFamilyFile) {
   expect_family(annotation);
 }
 
-// What the writer gives for each record of the family file is the record itself.
-TEST(Annotation, TheFamilyFileIsWrittenAsItWasRead) {
-  int result = 0;
-  auto file = igs_test::read_text(file_text(annotation.records), result);
-  ASSERT_EQ(result, 1);
-  std::string const text = igs_test::written_text(*file);
-  for (size_t i = 0; i < annotation.records.size(); ++i)
-    EXPECT_EQ(igs_test::written_record(text, 2 * static_cast<int>(i) + 1),
-              annotation.records[i].data);
-}
-
 // The pieces of the damaged files: a note, a leader, a leader of no segment (which no repair
 // mends), a witness line and a line.
 Record const note = solid(212, 0, "212,1,1,1.,1.,1,1.5707963267949,0.,0,0,0.,0.,0.,1HN;");

@@ -685,57 +685,6 @@ TEST_F(CurveSetters, CompositeCurves) {
 
 namespace {
 
-// A conic arc of each form with the coefficients of another kind: the error its check raises,
-// and the form that the repair leaves (the same form when the repair cannot act).
-TEST_F(CurveSetters, ConicArcsTakeTheFormOfTheirCoefficients) {
-  igsConicCoeffs const ellipse(1, 0, 4, 0, 0, -4), hyperbola(1, 0, -1, 0, 0, -9),
-      parabola(1, 0, 0, 0, -1, 0), circle(1, 0, 1, 0, 0, -1), line(0, 0, 0, 1, 1, -1);
-  // Conics so small that their invariants fall within the tolerance: the exact signs decide.
-  igsConicCoeffs const small_ellipse(1e-5, 0, 1e-5, 0, 0, -1e-5),
-      small_hyperbola(1e-5, 0, -1e-5, 0, 0, -1e-5), small_parabola(1e-5, 0, 0, 0, -1e-5, 0);
-  struct Case {
-    igsConicCoeffs coeffs;
-    int form;
-    kvuTypeInfo const* raised;
-    int fixed_form;
-  } const cases[] = {
-      {circle, 2, &igs104NotHyperbola::type(), 1},
-      {hyperbola, 1, &igs104NotEllipse::type(), 2},
-      {parabola, 1, &igs104NotEllipse::type(), 3},
-      {ellipse, 2, &igs104NotHyperbola::type(), 1},
-      {parabola, 2, &igs104NotHyperbola::type(), 3},
-      {ellipse, 3, &igs104NotParabola::type(), 1},
-      {hyperbola, 3, &igs104NotParabola::type(), 2},
-      {small_ellipse, 2, &igs104NotHyperbola::type(), 1},
-      {small_hyperbola, 3, &igs104NotParabola::type(), 2},
-      {small_parabola, 1, &igs104NotEllipse::type(), 3},
-      {line, 3, &igs104NotParabola::type(), 3},
-      {line, 1, &igs104NotEllipse::type(), 1},
-      {line, 0, &igs104UnknownType::type(), 0},
-  };
-  for (Case const& c : cases) {
-    auto* conic = new igs104;
-    ASSERT_TRUE(conic->set_start_point(giPoint2(1, 0)) && conic->set_end_point(giPoint2(0, 1)));
-    conic->set_z_level(0.0);
-    // Coefficients of no kind are refused by the setter; a file gives them all the same.
-    if (!conic->set_coeffs(c.coeffs)) const_cast<igsConicCoeffs&>(conic->coeffs()) = c.coeffs;
-    igs_entity_test::Access::set_form(*conic, c.form);
-    std::vector<std::string> raised = checked(*conic);
-    EXPECT_EQ(raised, std::vector<std::string>{c.raised->name()}) << c.form;
-    EXPECT_EQ(fix(conic->de_number(), *c.raised), c.coeffs.conic_type() != igsConicUnknown);
-    EXPECT_EQ(conic->directory_entry().form_number(), c.fixed_form) << c.form;
-  }
-  auto* unset = new igs104;
-  EXPECT_FALSE(unset->set_coeffs(line));
-  EXPECT_FALSE(unset->coeffs().valid());
-  EXPECT_EQ(checked(*unset), (std::vector<std::string>{"igs104NoConstruct", "igs104UnknownType"}));
-  ASSERT_TRUE(unset->set_coeffs(parabola));
-  unset->set_z_level(5.0);
-  unset->set_start_point(giPoint2(-1, 1));
-  unset->set_end_point(giPoint2(2, 4));
-  EXPECT_EQ(written(*unset), records({PARABOLA}));
-}
-
 // Spline curves built through their setters: sized once, every value unset until set.
 TEST_F(CurveSetters, ParametricSplineCurves) {
   using Errors = std::vector<std::string>;

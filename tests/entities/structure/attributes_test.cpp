@@ -105,27 +105,6 @@ TEST(Attributes, EveryDamageIsFoundAndWhatCanBeRepairedIs) {
   for (Damage const& damage : damages) expect_damage(damage);
 }
 
-// Each percentage counts as on from 50.0; the colour number that a colour definition's own
-// Directory Entry is repaired to is the nearest of the eight.
-TEST(Attributes, AColourDefinitionTakesTheNearestColourNumber) {
-  struct Row {
-    char const* data;
-    char const* name;
-  } const rows[] = {
-      {"314,49.9,49.9,49.9;", "Black"}, {"314,0.,0.,50.;", "Blue"},
-      {"314,0.,50.,0.;", "Green"},      {"314,0.,100.,100.;", "Cyan"},
-      {"314,50.,0.,0.;", "Red"},        {"314,50.,10.,50.;", "Magenta"},
-      {"314,100.,100.,0.;", "Yellow"},  {"314,50.,50.,50.;", "White"},
-  };
-  for (Row const& r : rows) {
-    int result = 0;
-    auto file = igs_test::read_text(file_text({{314, 0, r.data}}), result);
-    file->clean(0);
-    EXPECT_EQ(igsObjectPtr(1)->directory_entry().colour().colour_name(), utString(r.name))
-        << r.data;
-  }
-}
-
 // A line's colour definition gives the line its name; a font code of no font leaves the font
 // of a template as it was; a reference built in memory has form 0 and needs both names.
 TEST(Attributes, ADefinitionNamesItsColourAndWhatIsBuiltInMemoryIsChecked) {

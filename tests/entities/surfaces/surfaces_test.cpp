@@ -290,72 +290,9 @@ TEST(Surfaces, EveryDamageIsFoundAndWhatCanBeRepairedIs) {
   for (Damage const& damage : damages) expect_damage(damage);
 }
 
-// The repairs of the point and the direction come first; they settle the errors of the plane
-// surfaces that name them, and not those of the cylinder.
-TEST(Surfaces, OnlyAPlaneSurfaceIsClearedByItsChildsRepairs) {
-  int result = 0;
-  auto file = igs_test::read_text(file_text(coloured_children), result);
-  igsCurrentFileScope current(*file);
-  file->clean(0);
-  EXPECT_EQ(igsObjectPtr(1)->num_logged_errors(), 0);
-  EXPECT_EQ(igsObjectPtr(3)->num_logged_errors(), 2);
-  EXPECT_EQ(igsObjectPtr(11)->num_logged_errors(), 0);
-}
-
 // Built through their setters, the classes write what a file of them reads; what a setter
 // refuses leaves the entity as it was.
 using SurfaceSetters = igs_entity_test::EntityTest;
-
-TEST_F(SurfaceSetters, PlanesAndSweptSurfaces) {
-  auto* plane = new igs108;
-  // Unset, the size counts as negative.
-  EXPECT_EQ(checked(*plane),
-            (std::vector<std::string>{"igs108NegativeSymbolSize(size=-1.79769e+308)",
-                                      "igs108NoConstruct"}));
-  EXPECT_EQ(plane->set_planar_coefficients(0, 0, 0, 5), 0);
-  EXPECT_EQ(plane->set_planar_coefficients(0, 0, 1e-300, 5), 1);
-  EXPECT_EQ(plane->set_boundary_curve(igsObjectPtr()), 0);
-  EXPECT_EQ(plane->set_display_symbol(giPoint3(), 2.0), 0);
-  EXPECT_EQ(plane->set_display_symbol(giPoint3(1, 2, 3), -1.0), 1);
-  EXPECT_EQ(checked(*plane), (std::vector<std::string>{"igs108AllCoeffsTooSmall",
-                                                       "igs108NegativeSymbolSize(size=-1)"}));
-  EXPECT_EQ(written(*plane), records({"108,0.,0.,1.D-300,5.,0,1.,2.,3.,-1.;"}));
-  // A bounded plane without its curve is made unbounded, and the error settled; the repair of
-  // a plane gone from its number does nothing.
-  igs_entity_test::Access::set_form(*plane, 1);
-  EXPECT_EQ(checked(*plane), (std::vector<std::string>{"igs108AllCoeffsTooSmall",
-                                                       "igs108NegativeSymbolSize(size=-1)",
-                                                       "igs108NullBoundaryCurvePtr"}));
-  EXPECT_EQ(fix(plane->de_number(), igs108NullBoundaryCurvePtr::type()), 1);
-  EXPECT_EQ(plane->directory_entry().form_number(), 0);
-  auto* stale = new igs108NullBoundaryCurvePtr;
-  stale->set_key(plane->de_number() + 2);
-  EXPECT_EQ(stale->fix(), 0);
-
-  auto* point = new igs116;
-  auto* ruled = new igs118;
-  EXPECT_EQ(ruled->set_rail_curve_1(igsObjectPtr()), 0);
-  EXPECT_EQ(ruled->set_rail_curve_1(point), 1);
-  EXPECT_EQ(ruled->set_rail_curve_2(plane), 1); // the kind is the check's to judge
-  EXPECT_EQ(written(*ruled), records({"118,3,1,0,0;"}));
-
-  auto* revolved = new igs120;
-  EXPECT_EQ(checked(*revolved),
-            (std::vector<std::string>{"igs120NullAxisPtr", "igs120NullGeneratrixPtr",
-                                      "igs120ZeroSweepAngle(end_angle=-2.14748e+09)"}));
-  double const turn = 6.283185307179586;
-  EXPECT_EQ(revolved->set_axis(igsObjectPtr()), 0);
-  EXPECT_EQ(revolved->set_start_end_angle(1, 1), 0);
-  EXPECT_EQ(revolved->set_start_end_angle(0, turn + 5e-10), 0); // the check would pass it
-  EXPECT_EQ(revolved->set_start_end_angle(0, turn), 1);
-  EXPECT_EQ(revolved->end_angle(), turn);
-
-  auto* tabulated = new igs122;
-  EXPECT_EQ(tabulated->set_directrix(igsObjectPtr()), 0);
-  EXPECT_EQ(tabulated->set_generatrix_end_point(giPoint3()), 0);
-  EXPECT_EQ(tabulated->set_generatrix_end_point(giPoint3(0, 0, 1)), 1);
-  EXPECT_EQ(checked(*tabulated), std::vector<std::string>{"igs122NullDirectrixPtr"});
-}
 
 TEST_F(SurfaceSetters, SplineSurfaces) {
   auto* surface = new igs114;
@@ -399,17 +336,6 @@ TEST_F(SurfaceSetters, SplineSurfaces) {
   EXPECT_EQ(errors[0], "igs114InvalidPatch(u=0,v=0)");
   EXPECT_EQ(errors.back(),
             "igs114VBreakpointOutOfSequence(index=2,value=-1.79769e+308,previous=5)");
-}
-
-// Types out of their ranges print as unknown.
-TEST(Surfaces, SplineSurfaceTypesOutOfRange) {
-  int result = 0;
-  auto file = igs_test::read_text(
-      file_text({{114, 0, "114,7,2,1,1,0.,1.,0.,1." + patches(4) + ";"}}), result);
-  igsCurrentFileScope current(*file);
-  std::string text = igs_entity_test::EntityTest::printed(*igsObjectPtr(1));
-  EXPECT_NE(text.find("SplineType = 7(Unknown)\nPatchType = 2(Unknown)\n"), std::string::npos)
-      << text;
 }
 
 TEST_F(SurfaceSetters, AnalyticSurfaces) {
