@@ -86,11 +86,6 @@ class fixerNode : public testNode {
 };
 KVU_DEFINE_TYPE(fixerNode, testNode)
 
-// What a reference reaches, or null; tested, unlike the reference's own call operator.
-void* target(igsObjectPtr const& reference) {
-  return reference;
-}
-
 class FixerTest : public FileTest {
  protected:
   FixerTest() { fix_calls().clear(); }
@@ -128,34 +123,6 @@ TEST(FixNodeTest, ALongChainIsWalkedWithoutDeepeningTheCallStack) {
   EXPECT_EQ(chain[0].distance(), 1);
   EXPECT_EQ(chain[length / 2].distance(), length / 2 + 1);
   EXPECT_EQ(chain[length - 1].distance(), length);
-}
-
-TEST_F(FixerTest, ChildrenAreRepairedFirstAndParentsSeeHowTheyFared) {
-  // top -> middle -> leaf, each with an error of its own raised before the error naming its
-  // child, so log order is the reverse of the order the repairs need.
-  fixerNode* leaf = node();
-  fixerNode* middle = node();
-  fixerNode* top = node();
-  top->raise_own(1);
-  middle->raise_own(1);
-  leaf->raise_own(1);
-  top->add_child(middle);
-  top->raise_bad_child(0);
-  middle->add_child(leaf);
-  middle->raise_bad_child(0);
-  EXPECT_EQ(top->num_logged_errors(), 2);
-
-  fixer.fix(log(), 0);
-  int t = top->de_number(), m = middle->de_number(), l = leaf->de_number();
-  EXPECT_EQ(fix_calls(), (std::vector<int>{l, m, m, t, t}));
-  EXPECT_EQ(distance(fixer, top), 1);
-  EXPECT_EQ(distance(fixer, middle), 2);
-  EXPECT_EQ(distance(fixer, leaf), 3);
-  EXPECT_EQ(fixer.num_nodes(), 3);
-  // Each child was clear when its parent's repair looked at it, so both stay.
-  EXPECT_EQ(target(top->child(0)), middle);
-  EXPECT_EQ(target(middle->child(0)), leaf);
-  EXPECT_EQ(object_log().num_errors(), 0);
 }
 
 TEST_F(FixerTest, ANodeOfDENumberZeroStandsInForAChildThatHasGone) {

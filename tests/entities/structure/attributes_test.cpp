@@ -49,10 +49,6 @@ Record font(int form, char const* data, int line_font) {
 }
 
 Damage const damages[] = {
-    {"a colour definition whose own colour is none is given the nearest colour number",
-     {{314, 0, "314,50.,10.,50.,3HODD;"}},
-     {"@1 igs314InvalidDEColourNumber"},
-     {}},
     {"a colour beyond the percentages, naming another definition",
      {{314, 0, "314,101.,-1.,100.5;", 0, -3}, {314, 0, "314,0.,0.,0.;", 0, 1}},
      {"@1 igs314InvalidBlueCoordinate", "@1 igs314InvalidDEColourNumber",
@@ -85,12 +81,6 @@ Damage const damages[] = {
               "@1 igs312InvalidSlantAngle(angle=1.79769e+308)",
               "@1 igs312InvalidTextAlignmentFlag(value=2)",
               "@1 igs312InvalidTextMirrorFlag(value=3)"}),
-    {"a text template of a font code of no font keeps the font it had",
-     {{312, 0, "312,1.,1.,5,0.,0.,0,0,0.,0.,0.;"}},
-     {},
-     {},
-     {},
-     "312,1.,1.,1,0.,0.,0,0,0.,0.,0.;"},
     {"a name property of two properties is given up as it is read",
      {{406, 15, "406,2,1HA,1HB;"}, {116, 0, "116,0.,0.,0.,0;"}},
      {"@1 igs406BadNumProperties", "@1 igsFileNoPDData(de_number=1)"},
