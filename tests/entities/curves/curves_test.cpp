@@ -458,59 +458,22 @@ TEST_F(CurveSetters, PointSetsAndPolylines) {
   tuple_list_setters<igsPolyline>(*this, 10);
 }
 
-// B-spline curves built through their setters: sized once, every value unset until set.
+// A B-spline curve built through its setters, sized once: a rational one names its unset and
+// zero weights; the planar flag stores 1 for any true value.
 TEST_F(CurveSetters, BsplineCurves) {
-  using Errors = std::vector<std::string>;
   auto* curve = new igs126;
-  EXPECT_EQ(checked(*curve), (Errors{"igs126BadDegree(degree=-2147483648)",
-                                     "igs126BadSumIndex(sum_index=-1)", "igs126NoConstruct",
-                                     "igs126TrimParamsOutOfSequence(start=-1.79769e+308,end=-1."
-                                     "79769e+308)",
-                                     "igs126UnsetTrimmingParams"}));
-  EXPECT_FALSE(curve->set_order_size(0, 3) || curve->set_order_size(3, 2));
   ASSERT_TRUE(curve->set_order_size(2, 3));
   EXPECT_FALSE(curve->set_order_size(2, 4));
-  // Five knots and three points unset, no range, unset limits; equal weights are not tested.
-  EXPECT_EQ(checked(*curve).size(), 11u);
-  double value = 0.0;
-  giPoint3 point;
-  EXPECT_FALSE(curve->knot(5, value) || curve->knot(-1, value) || curve->set_knot(5, 1.0) ||
-               curve->weight(3, value) || curve->set_weight(-1, 1.0) ||
-               curve->control_point(3, point) || curve->set_control_point(3, point));
   for (int i = 0; i < 5; ++i) ASSERT_TRUE(curve->set_knot(i, i < 2 ? 0.0 : i < 3 ? 0.5 : 1.0));
-  for (int i = 0; i < 3; ++i) {
-    ASSERT_TRUE(curve->set_weight(i, 1.0));
-    ASSERT_TRUE(curve->set_control_point(i, giPoint3(i, 2 * i, 3 * i)));
-  }
+  for (int i = 0; i < 3; ++i) ASSERT_TRUE(curve->set_control_point(i, giPoint3(i, 2 * i, 0)));
+  ASSERT_TRUE(curve->set_weight(0, 1.0) && curve->set_weight(2, 1e-16));
   EXPECT_TRUE(curve->set_parametric_limits(0.0, 1.0));
-  EXPECT_FALSE(curve->set_parametric_limits(1.0, 0.5));
-  EXPECT_EQ(checked(*curve), Errors{});
-
-  // The flags store 1 for a true value, the rational flag in the file's sense. Rational with
-  // constant weights, and planar without a normal:
   curve->set_planar_flag(7);
-  curve->set_closed_flag(-2);
-  curve->set_periodic_flag(0);
   curve->set_rational_flag(1);
-  EXPECT_EQ(curve->planar_flag() * 1000 + curve->closed_flag() * 100 + curve->periodic_flag() * 10 +
-                curve->rational_flag(),
-            1100);
-  EXPECT_EQ(checked(*curve),
-            (Errors{"igs126InvalidUnitNormal", "igs126WeightsAndRatFlagDisagree(tested=0)"}));
-  EXPECT_FALSE(curve->set_unit_normal(giVector3()));
+  EXPECT_EQ(curve->planar_flag(), 1);
   EXPECT_TRUE(curve->set_unit_normal(giVector3(0, 0, 1)));
-  // Weights apart by the tolerance: a polynomial curve passes, a rational one has each tested.
-  curve->set_rational_flag(0);
-  for (int i = 0; i < 3; ++i) ASSERT_TRUE(curve->set_weight(i, i == 1 ? 2e-9 : 1e-9));
-  EXPECT_EQ(checked(*curve), Errors{});
-  curve->set_rational_flag(1);
-  ASSERT_TRUE(curve->set_weight(1, igs_unset_double));
-  ASSERT_TRUE(curve->set_weight(2, 1e-16));
-  EXPECT_EQ(checked(*curve), (Errors{"igs126UnsetWeight(index=1)", "igs126ZeroWeight(index=2)"}));
-  // A repair whose number names no curve does nothing.
-  auto* stale = new igs126NoParamRange(0.0);
-  stale->set_key((new igs110)->de_number());
-  EXPECT_EQ(stale->fix(), 0);
+  EXPECT_EQ(checked(*curve),
+            (std::vector<std::string>{"igs126UnsetWeight(index=1)", "igs126ZeroWeight(index=2)"}));
 }
 
 // Order 2 and 13201 control points: 66007 values, more than the first reservation holds. The
@@ -593,9 +556,6 @@ namespace {
 TEST_F(CurveSetters, ParametricSplineCurves) {
   using Errors = std::vector<std::string>;
   auto* curve = new igs112;
-  EXPECT_EQ(checked(*curve), (Errors{"igs112InvalidContinuity(value=-2147483647)",
-                                     "igs112InvalidDerivatives", "igs112NoConstruct"}));
-  EXPECT_FALSE(curve->set_number_of_segments(0));
   ASSERT_TRUE(curve->set_number_of_segments(2));
   EXPECT_FALSE(curve->set_number_of_segments(2));
   EXPECT_TRUE(curve->set_continuity(3));
@@ -607,29 +567,8 @@ TEST_F(CurveSetters, ParametricSplineCurves) {
                     "igs112UnsetBreakpoint(index=2)"}));
   EXPECT_EQ(fix(curve->de_number(), igs112InvalidContinuity::type()), 1);
   EXPECT_EQ(curve->continuity(), 0);
-  double const breakpoints[] = {0, 1, 2}, values[] = {1, 2, 3, 4};
-  EXPECT_FALSE(curve->set_all_breakpoints(2, breakpoints) || curve->set_breakpoint(3, 1.0));
-  ASSERT_TRUE(curve->set_all_breakpoints(3, breakpoints));
-  igsCubicCoefficients c, unset;
-  c.set_coefficients(values);
-  EXPECT_FALSE(curve->set_xyz_coefficients(2, c, c, c) ||
-               curve->set_xyz_coefficients(0, c, unset, c));
-  ASSERT_TRUE(curve->set_xyz_coefficients(0, c, c, c) && curve->set_xyz_coefficients(1, c, c, c));
-  igsCubicDerivatives d, gap;
-  d.set_derivatives(values);
-  EXPECT_FALSE(curve->set_xyz_derivatives(d, gap, d));
-  ASSERT_TRUE(curve->set_xyz_derivatives(d, d, d));
-  curve->set_spline_type(igsSplineLinear);
-  curve->set_dimensionality(igsSplinePlanar);
-  EXPECT_EQ(checked(*curve), Errors{});
-  double t0 = 0, t1 = 0, value = 0;
-  EXPECT_FALSE(curve->segment(2, c, c, c, t0, t1) || curve->x_coefficients(-1, c) ||
-               curve->breakpoint(3, value));
-  ASSERT_TRUE(curve->segment(1, c, unset, c, t0, t1));
-  EXPECT_TRUE(t0 == 1 && t1 == 2 && unset.valid());
-  EXPECT_EQ(written(*curve),
-            records({"112,1,0,2,2,0.,1.,2.,1.,2.,3.,4.,1.,2.,3.,4.,1.,2.,3.,4.,1.,2.,",
-                     "3.,4.,1.,2.,3.,4.,1.,2.,3.,4.,1.,2.,3.,4.,1.,2.,3.,4.,1.,2.,3.,", "4.;"}));
+  igsCubicCoefficients c;
+  EXPECT_FALSE(curve->set_breakpoint(3, 1.0) || curve->x_coefficients(-1, c));
 }
 
 // Offset curves set as a whole: what the way of offsetting leaves out is null or unset, which

@@ -302,28 +302,4 @@ TEST_F(SurfaceSetters, SplineSurfaces) {
             "igs114VBreakpointOutOfSequence(index=2,value=-1.79769e+308,previous=5)");
 }
 
-TEST_F(SurfaceSetters, AnalyticSurfaces) {
-  auto* point = new igs116;
-  auto* torus = new igs198_0;
-  EXPECT_EQ(checked(*torus), (std::vector<std::string>{"igs198_0NoMajorRadiusDefined",
-                                                       "igs198_0NoMinorRadiusDefined",
-                                                       "igs198_0NullAxis", "igs198_0NullCentre"}));
-  EXPECT_EQ(torus->set_centre(point), 1);
-  EXPECT_EQ(torus->set_radii(2.0, 3.0), 1); // the check judges them
-  // The point has no coordinates yet.
-  EXPECT_EQ(checked(*torus),
-            (std::vector<std::string>{"igs198_0InvalidCentre", "igs198_0InvalidRadii",
-                                      "igs198_0NullAxis"}));
-  EXPECT_EQ(torus->major_radius(), 2.0);
-  EXPECT_EQ(written(*torus), records({"198,1,0,2.,3.;"}));
-
-  auto* cone = new igs194_1;
-  EXPECT_EQ(cone->set_location(igsObjectPtr()), 1);
-  EXPECT_EQ(cone->set_axis(point), 1);
-  EXPECT_EQ(cone->set_reference(point), 1);
-  EXPECT_EQ(cone->set_radius(1.5), 1);
-  EXPECT_EQ(cone->set_semi_angle(45.0), 1);
-  EXPECT_EQ(written(*cone), records({"194,0,1,1.5,45.,1;"}));
-}
-
 } // namespace
