@@ -2,7 +2,6 @@
 
 #include "errors/igsFixer.h"
 
-#include <algorithm>
 #include <vector>
 
 namespace {
@@ -12,24 +11,6 @@ std::vector<int>& fix_calls() {
   static std::vector<int> calls;
   return calls;
 }
-
-// Errors that record their tag when their fix runs and return the result they were made with,
-// one for each base. A structure error's first argument is its DE number.
-#define FIXER_TEST_ERRORS(X)                                                                       \
-  X(fixerObjectRepair, igsObjectError, (int, tag), (int, result))                                  \
-  X(fixerStructureRepair, igsStructureError, (int, de_number), (int, tag), (int, result))          \
-  X(fixerGlobalRepair, igsGlobalError, (int, tag), (int, result))                                  \
-  X(fixerStartRepair, igsStartError, (int, tag), (int, result))                                    \
-  X(fixerTerminateRepair, igsTerminateError, (int, tag), (int, result))
-#define FIXER_DECLARE(Name, Base, ...) IGS_ERROR_DECLARE(Name, Base, FIX, __VA_ARGS__)
-#define FIXER_DEFINE(Name, Base, ...)                                                              \
-  IGS_ERROR_DEFINE(Name, Base, FIX)                                                                \
-  int Name::fix() {                                                                                \
-    fix_calls().push_back(tag());                                                                  \
-    return result();                                                                               \
-  }
-FIXER_TEST_ERRORS(FIXER_DECLARE)
-FIXER_TEST_ERRORS(FIXER_DEFINE)
 
 // A parent's error about its child at `index`, as a composite curve has about a sub-curve that
 // failed its check: repairs of the child come first, and the parent's repair keeps the child
@@ -60,17 +41,6 @@ int fixerBadChildData::fix() {
   return 1;
 }
 
-// A repair that deletes its entity, as one that replaces it by another does.
-IGS_ERROR_DECLARE(fixerDeleteEntity, igsObjectError, FIX, (int, tag))
-IGS_ERROR_DEFINE(fixerDeleteEntity, igsObjectError, FIX)
-
-int fixerDeleteEntity::fix() {
-  fix_calls().push_back(tag());
-  igsObjectPtr entity(key());
-  delete entity();
-  return 1;
-}
-
 // A node on which the tests raise errors directly.
 class fixerNode : public testNode {
   KVU_DECLARE_TYPE()
@@ -78,8 +48,6 @@ class fixerNode : public testNode {
   template <class E, class... A> void raise(A... arguments) const { raise_error<E>(arguments...); }
   // The error about child i, tagged with this node's DE number.
   void raise_bad_child(int i) const { raise<fixerBadChildData>(i, de_number()); }
-  // An error of its own, tagged with this node's DE number.
-  void raise_own(int result) const { raise<fixerObjectRepair>(de_number(), result); }
 
  protected:
   igsObject* make_one() override { return new fixerNode; }
@@ -91,17 +59,6 @@ class FixerTest : public FileTest {
   FixerTest() { fix_calls().clear(); }
 
   fixerNode* node() { return new fixerNode; }
-  // A parent whose first child is the given node, with the error that names the child.
-  fixerNode* parent_of(fixerNode* child) {
-    fixerNode* parent = node();
-    parent->add_child(child);
-    parent->raise_bad_child(parent->num_children() - 1);
-    return parent;
-  }
-  static std::vector<int> sorted(std::vector<int> values) {
-    std::sort(values.begin(), values.end());
-    return values;
-  }
   static int distance(igsFixer const& fixer, igsObject const* entity) {
     igsFixNode const* n = fixer.find_node(entity->de_number());
     return n ? n->distance() : -1;
