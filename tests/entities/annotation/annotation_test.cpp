@@ -371,6 +371,7 @@ TEST_F(AnnotationSetters, FormsCurvesAndPatterns) {
   dimension->set_second_curve(second);
   EXPECT_EQ(dimension->num_curves(), 1);
   dimension->set_first_curve(first);
+  dimension->set_second_curve(second);
   EXPECT_EQ(dimension->num_curves(), 2);
 }
 

@@ -1,17 +1,13 @@
 // The curve and point family: a file of every class, and each damage a file can carry with
 // what check and repair make of it.
-#include "entities/curves/igs100.h"
 #include "entities/curves/igs102.h"
-#include "entities/curves/igs104.h"
 #include "entities/curves/igs110.h"
 #include "entities/curves/igs112.h"
-#include "entities/curves/igs116.h"
 #include "entities/curves/igs126.h"
 #include "entities/curves/igs130.h"
 #include "entities/curves/igsCurveErrors.h"
 #include "entities/curves/igsPointset.h"
 #include "entities/curves/igsPolyline.h"
-#include "entities/curves/igsSimpleClosedPlanarCurve.h"
 #include "entities/entityFamily.h"
 #include "entities/entityTestSupport.h"
 

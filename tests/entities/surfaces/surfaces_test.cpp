@@ -1,17 +1,10 @@
 // The surface family: planes, parametric spline surfaces, ruled surfaces, surfaces of
 // revolution, tabulated cylinders and the analytic surfaces in both forms; a file of every
-// class, each damage a file can carry with what check and repair make of it, and the setters.
-#include "core/igsCurrentFileScope.h"
+// class, each damage a file can carry with what check and repair make of it, and the setters
+// of the spline surface.
 #include "entities/entityFamily.h"
 #include "entities/entityTestSupport.h"
-#include "entities/surfaces/igs108.h"
 #include "entities/surfaces/igs114.h"
-#include "entities/surfaces/igs118.h"
-#include "entities/surfaces/igs120.h"
-#include "entities/surfaces/igs122.h"
-#include "entities/surfaces/igs194_1.h"
-#include "entities/surfaces/igs198_0.h"
-#include "entities/surfaces/igsSurfaceErrors.h"
 
 using namespace igs_family_test;
 

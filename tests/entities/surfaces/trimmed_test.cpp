@@ -2,15 +2,6 @@
 // surfaces, bounded and trimmed surfaces; a file of every class, and each damage a file can
 // carry with what check and repair make of it.
 #include "entities/entityFamily.h"
-#include "entities/curves/igs110.h"
-#include "entities/entityTestSupport.h"
-#include "entities/surfaces/igs128.h"
-#include "entities/surfaces/igs140.h"
-#include "entities/surfaces/igs141.h"
-#include "entities/surfaces/igs142.h"
-#include "entities/surfaces/igs144.h"
-
-#include <cmath>
 
 using namespace igs_family_test;
 
@@ -262,9 +253,5 @@ Damage const damages[] = {
 TEST(Trimmed, EveryDamageIsFoundAndWhatCanBeRepairedIs) {
   for (Damage const& damage : damages) expect_damage(damage);
 }
-
-// Built through their setters, the classes write what a file of them reads; what a setter
-// refuses leaves the entity as it was.
-using TrimmedSetters = igs_entity_test::EntityTest;
 
 } // namespace
