@@ -91,30 +91,4 @@ class AccessObject : public igsObject {
   static int read(igsObject& e, igsInStream& in) { return (e.*&AccessObject::read_pd_data)(in); }
 };
 
-TEST_F(FactoryTest, NullAndUnknownEntitiesHoldNothing) {
-  igsObject* null = AccessObject::create(0, 5);
-  igsObject* unknown = AccessObject::create(777, 0);
-  ASSERT_TRUE(null->isa(igsNull::type()));
-  ASSERT_TRUE(unknown->isa(igsUnknown::type()));
-  EXPECT_EQ(null->directory_entry().entity_type(), igsEntityTypeNull);
-  EXPECT_EQ(unknown->directory_entry().entity_type(), igsEntityTypeUnknown);
-  EXPECT_EQ(null->directory_entry().form_number(), 0);
-  EXPECT_EQ(unknown->directory_entry().form_number(), 0);
-
-  std::istringstream text("1,2,3;");
-  igsInStream in(text);
-  EXPECT_EQ(AccessObject::read(*null, in), 0);
-  EXPECT_EQ(AccessObject::read(*unknown, in), 0);
-
-  std::ostringstream out;
-  utOstream stream(out);
-  null->print(stream);
-  unknown->print(stream);
-  std::string printed = out.str();
-  EXPECT_NE(printed.find("  NullEntity\n}\n"), std::string::npos) << printed;
-  EXPECT_NE(printed.find("  UnknownEntity\n}\n"), std::string::npos) << printed;
-  EXPECT_EQ(null->check(), 1);
-  EXPECT_EQ(unknown->check(), 1);
-}
-
 } // namespace

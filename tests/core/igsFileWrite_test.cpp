@@ -157,24 +157,6 @@ TEST_F(WriteTest, NoTemporaryFileStaysWhateverHappensToTheDestination) {
   EXPECT_EQ(written(), full);
 }
 
-TEST_F(WriteTest, ParametricEntitiesAreWrittenWithTheParametricPrecision) {
-  KeyOverride parametric(kvnOptDoubleParametricPrecision, 4);
-  KeyOverride geometric(kvnOptDoubleGeometricPrecision, 9);
-  giPoint3 const start(1.23456789012, -0.000123456789, 98765.4321);
-  giPoint3 const end(0.5, 2.0, 1.0 / 3.0);
-  for (int use : {igsUseGeometry, igsUse2DParametric, igsUseConstructional}) {
-    igs110* l = line(start, end);
-    EXPECT_EQ(l->directory_entry().set_status_flags(igsStatusFlags(0, 0, use, 0)), 1);
-  }
-  std::string text = written();
-  char const* const geometric_record =
-      "110,1.23456789,-0.000123456789,98765.4321,0.5,2.,0.333333333;";
-  EXPECT_EQ(record(text, 1), geometric_record);
-  EXPECT_EQ(record(text, 3), "110,1.235,-0.0001235,9.877D+04,0.5,2.,0.3333;");
-  // The format is popped behind the parametric entity.
-  EXPECT_EQ(record(text, 5), geometric_record);
-}
-
 TEST_F(WriteTest, ABackPointerBeyondSevenDigitsFailsTheWriteWithItsError) {
   point(giPoint3(1.0, 2.0, 3.0));
   new testFarNode;

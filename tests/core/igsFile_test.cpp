@@ -6,12 +6,6 @@
 
 namespace {
 
-std::vector<int> de_numbers(igsFile const& f) {
-  std::vector<int> numbers;
-  for (igsFileIT it(&f); ++it;) numbers.push_back(it()->de_number());
-  return numbers;
-}
-
 TEST(FileSystemTest, TheFileMadeLastIsCurrentAndEntitiesJoinTheCurrentFile) {
   auto first = std::make_unique<igsFile>();
   EXPECT_EQ(&igsObjectSystem::file(), first.get());
@@ -58,74 +52,6 @@ TEST(FileSystemTest, TheFileMadeLastIsCurrentAndEntitiesJoinTheCurrentFile) {
   igsObjectSystem::get_all_files(files);
   ASSERT_GT(files.size(), 0);
   EXPECT_EQ(&igsObjectSystem::file(), files[0]);
-}
-
-TEST_F(FileTest, ReplaceEntityMovesReferencesAndTheDeNumber) {
-  auto* parent = new testNode;
-  auto* old_entity = new testNode(1);
-  auto* other = new testNode;
-  auto* replacement = new testNode(2);
-  parent->add_child(old_entity);
-  other->add_child(old_entity);
-  igsObjectPtr held(replacement);
-  old_entity->add_child(other); // references the old entity held are not carried over
-  int old_de = old_entity->de_number();
-  ASSERT_EQ(old_de, 3);
-  ASSERT_EQ(replacement->de_number(), 7);
-  int managers = file->num_managers();
-
-  file->replace_entity(old_entity, replacement);
-  EXPECT_EQ(replacement->de_number(), old_de);
-  EXPECT_EQ(replacement->num_references(), 3); // 2 moved + 1 it had
-  EXPECT_EQ(parent->child(0)(), replacement);
-  EXPECT_EQ(other->child(0)(), replacement);
-  EXPECT_EQ(other->num_references(), 0);
-  EXPECT_EQ(igsObjectPtr(old_de)(), replacement);
-  EXPECT_EQ(file->num_entities(), 3);
-  EXPECT_EQ(file->num_managers(), managers - 1);
-  EXPECT_EQ(de_numbers(*file), (std::vector<int>{1, 3, 5}));
-  // The new entity's old slot is free and taken next.
-  EXPECT_EQ((new testNode)->de_number(), 7);
-
-  // Calls that name no two entities of this file change nothing.
-  auto elsewhere = std::make_unique<igsFile>();
-  auto* stranger = new testNode;
-  file->replace_entity(replacement, stranger);
-  file->replace_entity(replacement, replacement);
-  file->replace_entity(nullptr, replacement);
-  EXPECT_EQ(replacement->de_number(), old_de);
-  EXPECT_EQ(&stranger->file(), elsewhere.get());
-  igsObjectSystem::set_current_file(*file);
-}
-
-TEST_F(FileTest, PrintShowsEachEntityOnceAndEndsOnCycles) {
-  file->set_pathname("part.igs");
-  auto* a = new testNode(1);
-  auto* b = new testNode(2);
-  auto* shared = new testNode(3);
-  a->add_child(shared);
-  b->add_child(shared);
-  b->add_child(b); // a cycle
-  b->add_child(igsObjectPtr(99));
-  delete new testNode; // a hole: NoOfEntities counts slots
-  std::string const text = printed(*file);
-  auto count = [&text](std::string const& what) {
-    int n = 0;
-    for (size_t at = text.find(what); at != std::string::npos; at = text.find(what, at + 1)) ++n;
-    return n;
-  };
-  EXPECT_EQ(text.rfind("IgesFile = {\n  Pathname = \"part.igs\"\n  NoOfLinesInStartSection", 0),
-            0u);
-  EXPECT_EQ(count("  NoOfEntities = 4\n  Entities = {\n    @1(9001) = {\n"), 1) << text;
-  // The contents of each entity once, where it is first met; later meetings show the head.
-  EXPECT_EQ(count("DirectoryEntry = {"), 3) << text;
-  EXPECT_EQ(count("Value = 3\n"), 1) << text;
-  EXPECT_EQ(count("@5(9001) = {\n"), 3) << text;
-  EXPECT_EQ(count("        @3(9001) = {\n        }\n"), 1) << text;
-  EXPECT_EQ(count("        (NullPointer)\n"), 1) << text;
-  EXPECT_EQ(count("TerminateSection = {"), 1) << text;
-  // A print of its own starts a new walk.
-  EXPECT_NE(printed(*shared).find("  Value = 3\n}\n"), std::string::npos);
 }
 
 TEST_F(FileTest, DirectoryEntrySettersRefuseWhatTheyCannotHold) {

@@ -128,18 +128,6 @@ class FileTest : public ::testing::Test {
   igsErrorLog& log() { return igsObjectSystem::log(); }
   igsIndexedSectionLog& object_log() { return *log().get_indexed_log(igsObjectLog); }
   igsIndexedSectionLog& structure_log() { return *log().get_indexed_log(igsStructureLog); }
-  static std::string printed(igsFile const& f) {
-    std::ostringstream text;
-    utOstream out(text);
-    f.print(out);
-    return text.str();
-  }
-  static std::string printed(igsObject const& o) {
-    std::ostringstream text;
-    utOstream out(text);
-    o.print(out);
-    return text.str();
-  }
 };
 
 } // namespace

@@ -168,14 +168,6 @@ class ReadTest : public ::testing::Test {
     return messages.text();
   }
 
-  // What print writes, for a file or an entity.
-  template <class T> static std::string printed(T const& printable) {
-    std::ostringstream text;
-    utOstream out(text);
-    printable.print(out);
-    return text.str();
-  }
-
   std::unique_ptr<igsFile> file = std::make_unique<igsFile>();
   kvnabsStringOutput messages;
 };

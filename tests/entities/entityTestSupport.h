@@ -27,13 +27,6 @@ using igs_input_test::record;
 struct Access : igsObject {
   static int read(igsObject& e, igsInStream& in) { return (e.*&Access::read_pd_data)(in); }
   static void write(igsObject& e, igsOutStream& out) { (e.*&Access::write_pd_data)(out); }
-  static void print(igsObject const& e, utOstream& out) { (e.*&Access::print_pd_data)(out); }
-  static void check(igsObject const& e) { (e.*&Access::check_pd)(); }
-  static void drop_children(igsObject& e) { (e.*&Access::unreference_children)(); }
-  // Gives the entity another form, as the reader does with the form of its DE.
-  static void set_form(igsObject& e, int form) {
-    (e.*&Access::set_directory_entry_type)(e.directory_entry().entity_type(), form, 0);
-  }
 };
 
 // Hands the arguments of an error over as text: "name=value".
@@ -106,13 +99,6 @@ class EntityTest : public ::testing::Test {
     for (size_t i = 0; i < data.size(); ++i)
       lines.push_back(record('P', static_cast<int>(i) + 1, data[i], 1));
     return lines;
-  }
-
-  static std::string printed(igsObject const& e) {
-    std::ostringstream text;
-    utOstream out(text);
-    Access::print(e, out);
-    return text.str();
   }
 
   // The active errors of the object log under the entity's DE number, sorted.

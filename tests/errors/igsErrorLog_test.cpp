@@ -32,26 +32,6 @@ std::vector<igsError*> walk(igsSimpleSectionLog& log) {
   return met;
 }
 
-TEST_F(LogTest, ErrorsAreFiledUnderTheirKeyAtTheNextLookAtTheLog) {
-  // Created untagged, keyed before anything reads the log: counted under the key.
-  auto* late = new testNodeNegativeValue(-4);
-  EXPECT_EQ(late->log_position(), 0); // its place among the pending
-  late->set_key(7);
-  EXPECT_EQ(object_log().num_errors(7), 1);
-
-  // Keyed only after the log was read: it stays counted under the unset key.
-  auto* untagged = new testNodeNegativeValue(-5);
-  EXPECT_EQ(object_log().num_errors(), 2);
-  untagged->set_key(9);
-  EXPECT_EQ(object_log().num_errors(9), 0);
-  EXPECT_EQ(object_log().num_errors(igsIndexedError::unset_key), 1);
-  EXPECT_EQ(untagged->log_position(), 1);
-
-  // A structure error is keyed by its constructor, so it needs no tag.
-  new testNodeOddValue(21, 3);
-  EXPECT_EQ(structure_log().num_errors(21), 1);
-}
-
 TEST_F(LogTest, EachBaseHasItsOwnSectionLog) {
   struct Case {
     igsError* error;

@@ -2,7 +2,6 @@
 
 #include "errors/igsFixer.h"
 
-#include <algorithm>
 #include <vector>
 
 namespace {
@@ -12,24 +11,6 @@ std::vector<int>& fix_calls() {
   static std::vector<int> calls;
   return calls;
 }
-
-// Errors that record their tag when their fix runs and return the result they were made with,
-// one for each base. A structure error's first argument is its DE number.
-#define FIXER_TEST_ERRORS(X)                                                                       \
-  X(fixerObjectRepair, igsObjectError, (int, tag), (int, result))                                  \
-  X(fixerStructureRepair, igsStructureError, (int, de_number), (int, tag), (int, result))          \
-  X(fixerGlobalRepair, igsGlobalError, (int, tag), (int, result))                                  \
-  X(fixerStartRepair, igsStartError, (int, tag), (int, result))                                    \
-  X(fixerTerminateRepair, igsTerminateError, (int, tag), (int, result))
-#define FIXER_DECLARE(Name, Base, ...) IGS_ERROR_DECLARE(Name, Base, FIX, __VA_ARGS__)
-#define FIXER_DEFINE(Name, Base, ...)                                                              \
-  IGS_ERROR_DEFINE(Name, Base, FIX)                                                                \
-  int Name::fix() {                                                                                \
-    fix_calls().push_back(tag());                                                                  \
-    return result();                                                                               \
-  }
-FIXER_TEST_ERRORS(FIXER_DECLARE)
-FIXER_TEST_ERRORS(FIXER_DEFINE)
 
 // A parent's error about its child at `index`, as a composite curve has about a sub-curve that
 // failed its check: repairs of the child come first, and the parent's repair keeps the child
@@ -60,17 +41,6 @@ int fixerBadChildData::fix() {
   return 1;
 }
 
-// A repair that deletes its entity, as one that replaces it by another does.
-IGS_ERROR_DECLARE(fixerDeleteEntity, igsObjectError, FIX, (int, tag))
-IGS_ERROR_DEFINE(fixerDeleteEntity, igsObjectError, FIX)
-
-int fixerDeleteEntity::fix() {
-  fix_calls().push_back(tag());
-  igsObjectPtr entity(key());
-  delete entity();
-  return 1;
-}
-
 // A node on which the tests raise errors directly.
 class fixerNode : public testNode {
   KVU_DECLARE_TYPE()
@@ -78,35 +48,17 @@ class fixerNode : public testNode {
   template <class E, class... A> void raise(A... arguments) const { raise_error<E>(arguments...); }
   // The error about child i, tagged with this node's DE number.
   void raise_bad_child(int i) const { raise<fixerBadChildData>(i, de_number()); }
-  // An error of its own, tagged with this node's DE number.
-  void raise_own(int result) const { raise<fixerObjectRepair>(de_number(), result); }
 
  protected:
   igsObject* make_one() override { return new fixerNode; }
 };
 KVU_DEFINE_TYPE(fixerNode, testNode)
 
-// What a reference reaches, or null; tested, unlike the reference's own call operator.
-void* target(igsObjectPtr const& reference) {
-  return reference;
-}
-
 class FixerTest : public FileTest {
  protected:
   FixerTest() { fix_calls().clear(); }
 
   fixerNode* node() { return new fixerNode; }
-  // A parent whose first child is the given node, with the error that names the child.
-  fixerNode* parent_of(fixerNode* child) {
-    fixerNode* parent = node();
-    parent->add_child(child);
-    parent->raise_bad_child(parent->num_children() - 1);
-    return parent;
-  }
-  static std::vector<int> sorted(std::vector<int> values) {
-    std::sort(values.begin(), values.end());
-    return values;
-  }
   static int distance(igsFixer const& fixer, igsObject const* entity) {
     igsFixNode const* n = fixer.find_node(entity->de_number());
     return n ? n->distance() : -1;
@@ -128,70 +80,6 @@ TEST(FixNodeTest, ALongChainIsWalkedWithoutDeepeningTheCallStack) {
   EXPECT_EQ(chain[0].distance(), 1);
   EXPECT_EQ(chain[length / 2].distance(), length / 2 + 1);
   EXPECT_EQ(chain[length - 1].distance(), length);
-}
-
-TEST_F(FixerTest, ChildrenAreRepairedFirstAndParentsSeeHowTheyFared) {
-  // top -> middle -> leaf, each with an error of its own raised before the error naming its
-  // child, so log order is the reverse of the order the repairs need.
-  fixerNode* leaf = node();
-  fixerNode* middle = node();
-  fixerNode* top = node();
-  top->raise_own(1);
-  middle->raise_own(1);
-  leaf->raise_own(1);
-  top->add_child(middle);
-  top->raise_bad_child(0);
-  middle->add_child(leaf);
-  middle->raise_bad_child(0);
-  EXPECT_EQ(top->num_logged_errors(), 2);
-
-  fixer.fix(log(), 0);
-  int t = top->de_number(), m = middle->de_number(), l = leaf->de_number();
-  EXPECT_EQ(fix_calls(), (std::vector<int>{l, m, m, t, t}));
-  EXPECT_EQ(distance(fixer, top), 1);
-  EXPECT_EQ(distance(fixer, middle), 2);
-  EXPECT_EQ(distance(fixer, leaf), 3);
-  EXPECT_EQ(fixer.num_nodes(), 3);
-  // Each child was clear when its parent's repair looked at it, so both stay.
-  EXPECT_EQ(target(top->child(0)), middle);
-  EXPECT_EQ(target(middle->child(0)), leaf);
-  EXPECT_EQ(object_log().num_errors(), 0);
-}
-
-TEST_F(FixerTest, WithFlagZeroAFailedRepairEndsOnlyItsEntitysErrors) {
-  fixerNode* stuck = node();
-  fixerNode* other = node();
-  stuck->raise<fixerObjectRepair>(11, 0);
-  stuck->raise<fixerObjectRepair>(12, 1);
-  other->raise<fixerObjectRepair>(21, 1);
-  fixer.fix(log(), 0);
-  EXPECT_EQ(sorted(fix_calls()), (std::vector<int>{11, 21}));
-  EXPECT_EQ(stuck->num_logged_errors(), 2);
-  EXPECT_EQ(other->num_logged_errors(), 0);
-
-  // With the flag set the later error runs, and only the failing one stays.
-  fix_calls().clear();
-  igsFixer again;
-  again.fix(log(), 1);
-  EXPECT_EQ(fix_calls(), (std::vector<int>{11, 12}));
-  EXPECT_EQ(stuck->num_logged_errors(), 1);
-}
-
-TEST_F(FixerTest, ACycleReachedFromARootIsCutWhereItClosesAndRun) {
-  // root -> a -> b -> a.
-  fixerNode* a = node();
-  fixerNode* b = node();
-  fixerNode* root = parent_of(a);
-  a->add_child(b);
-  a->raise_bad_child(0);
-  b->add_child(a);
-  b->raise_bad_child(0);
-  fixer.fix(log(), 1);
-  EXPECT_EQ(distance(fixer, root), 1);
-  EXPECT_EQ(distance(fixer, a), 2);
-  EXPECT_EQ(distance(fixer, b), 3);
-  EXPECT_EQ(fix_calls(), (std::vector<int>{b->de_number(), a->de_number(), root->de_number()}));
-  EXPECT_EQ(object_log().num_errors(), 0);
 }
 
 TEST_F(FixerTest, ANodeOfDENumberZeroStandsInForAChildThatHasGone) {

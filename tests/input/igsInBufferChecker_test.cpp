@@ -152,30 +152,6 @@ TEST(igsInBufferChecker, ReportsEveryLine) {
   }
 }
 
-TEST(igsInBufferChecker, BackPointersOfWideLines) {
-  // The sign of a negative back pointer stays in the data; the line grows wider.
-  std::istringstream in(join({s1, with_backpointer(record('P', 1, "1;"), " -32767")}));
-  igsInStream stream(in);
-  stream.skip_line();
-  EXPECT_EQ(stream.capacity(), 83);
-  EXPECT_EQ(stream.backpointer(), 32767);
-  // 65 columns of data, a blank and seven digits: the back pointer is found from the blank
-  // in front of it, and the data character in column 65 is blanked without a report.
-  std::string wide = "1,2," + repeat(' ', 60) + "9 0000003P      1";
-  std::istringstream in2(join({d1, d2, wide, record('P', 2, "3;", 3)}));
-  igsInStream stream2(in2);
-  while (stream2.num_lines(igsSectionParameter) == 0) {
-    stream2.skip_line();
-    stream2.reset();
-  }
-  EXPECT_EQ(stream2.capacity(), 81);
-  EXPECT_EQ(stream2.backpointer(), 3);
-  int values[3] = {};
-  for (int& v : values) stream2.read_integer(v);
-  EXPECT_EQ(values[2], 3); // not 9
-  EXPECT_EQ(describe(stream2.errors()), Lines{"igsIOValuePresent@P2:2"});
-}
-
 int callback_count = 0;
 
 TEST(igsInBufferChecker, LineReadCallbackRunsForEveryFetch) {

@@ -152,31 +152,6 @@ TEST(igsInStream, ReadsDelimitedFields) {
   }
 }
 
-// Fixed-width and delimited reads on their own, and delimiters of the file's own.
-TEST(igsInStream, AFixedFieldWiderThanTheLineAndAnotherDelimiter) {
-  Reader r({record('D', 1, "  1 2   "), record('P', 1, "1|,|4#", 1)});
-  int v = -1;
-  r.stream.read_integer(8, v);
-  EXPECT_EQ(v, 12);
-  EXPECT_EQ(r.codes(), blank);
-  // The field ends with the line, and the cursor moves on to the next line: a reader looping
-  // over fields never stands still.
-  utString s;
-  r.stream.read_string(100, s);
-  EXPECT_EQ(s, "D      1");
-  EXPECT_EQ(r.column(), 0);
-  EXPECT_TRUE(r.stream.reset());
-  r.codes(); // the new section
-  r.stream.set_param_delimiter('|');
-  r.stream.set_record_delimiter('#');
-  EXPECT_EQ(r.integer(), 1);
-  EXPECT_EQ(r.codes(), present);
-  EXPECT_EQ(r.integer(), 0); // "," is no delimiter now
-  EXPECT_EQ(r.codes(), bad);
-  EXPECT_EQ(r.integer(), 4);
-  EXPECT_TRUE(r.stream.frozen());
-}
-
 TEST(igsInStream, CodesStandUntilCollectedAndCarryTheirLocation) {
   // A blank line and a NUL between the two Global lines.
   Reader r({record('G', 1, "1H,,1H;,4Htest,"), "", with(record('G', 2, "1 2,3;"), 30, '\0')});

@@ -49,44 +49,6 @@ TEST(CompoundFlattening, ASolidGivesWayToItsFacesWhichLearnTheirSolidAndSide) {
   EXPECT_EQ(members(1), (std::vector<int>{3, 9, 11, 13}));
 }
 
-// The sample part's solid in a group of its own: the group takes its six faces, and the file
-// still checks clean and reads back.
-TEST(CompoundFlattening, TheSamplesSolidExplodedChecksCleanAndReadsBack) {
-  int result = 0;
-  auto file = igs_test::read_text(
-      igs_test::read_file(igs_test::source_dir() / "examples/bracket.igs"), result);
-  ASSERT_EQ(result, 1);
-  auto* group = new igs402_7;
-  for (igsFileIT it(file.get()); ++it;) {
-    if (!it()->isa(igs186::type())) continue;
-    group->set_number_of_entities(1);
-    group->set_entity(0, igsObjectPtr(it()));
-  }
-  group->explode_solids();
-  EXPECT_EQ(group->number_of_entities(), 6);
-  file->check();
-  for (igsFileIT it(file.get()); ++it;)
-    EXPECT_EQ(it()->num_logged_errors(), 0) << it()->de_number();
-  auto faults = igs_test::round_trip_faults(*file, "exploded");
-  EXPECT_TRUE(faults.empty()) << faults.front();
-}
-
-// DE 1 holds the group at DE 3 and a point; DE 3 the group at DE 7 and the same point.
-TEST(CompoundFlattening, NestedGroupsBecomeOneLevelAndTheFileReadsBackClean) {
-  auto file = read({{402, 7, "402,2,3,5;"},
-                    {402, 7, "402,2,7,5;"},
-                    {116, 0, "116,0.,0.,0.,0;"},
-                    {402, 7, "402,1,9;"},
-                    {116, 0, "116,1.,0.,0.,0;"}});
-  compound(1).flatten_groups();
-  EXPECT_EQ(members(1), (std::vector<int>{9, 5, 5}));
-  EXPECT_EQ(members(3), (std::vector<int>{9, 5}));
-  file->check();
-  for (igsFileIT it(file.get()); ++it;) EXPECT_EQ(it()->num_logged_errors(), 0);
-  auto faults = igs_test::round_trip_faults(*file, "flattened");
-  EXPECT_TRUE(faults.empty()) << faults.front();
-}
-
 TEST(CompoundFlattening, CurvesOnSurfacesAreCountedThroughGroupsAndSubfigures) {
   struct Row {
     char const* what;

@@ -77,75 +77,6 @@ TEST(igsIntEncoder, DecimalTextInOnePiece) {
   EXPECT_EQ(e.num_items(), 0);
 }
 
-TEST(igsDoubleEncoder, EveryRealHasAPointAndADExponent) {
-  igsDoubleEncoder e;
-  EXPECT_EQ(std::string(e.current_format().view()), "%-20.15G");
-  std::pair<double, char const*> const cases[] = {
-      {1.0, "1."},
-      {-0.0, "0."},
-      {1e15, "1.D+15"},
-      {1e14, "100000000000000."},
-      {1234567890123456.0, "1.23456789012346D+15"},
-      {0.0001, "0.0001"},
-      {0.00001, "1.D-05"},
-      {-2.0 / 3.0, "-0.666666666666667"},
-      {DBL_MAX, "1.79769313486232D+308"},
-      {std::numeric_limits<double>::denorm_min(), "4.94065645841247D-324"},
-      {-std::numeric_limits<double>::infinity(), "-INF."},
-      {std::numeric_limits<double>::quiet_NaN(), "NAN."},
-  };
-  for (auto const& [value, text] : cases) {
-    EXPECT_EQ(real(e, value), text) << value;
-    EXPECT_EQ(real(e, value), reference("%-20.15G", value));
-  }
-  EXPECT_TRUE(std::isnan(e.value()));
-}
-
-TEST(igsDoubleEncoder, FormatStackAndPrecisionKeys) {
-  {
-    // The precision key is read when the encoder is made; the width never shows.
-    KeyOverride precision(kvnOptDoubleGeometricPrecision, 6);
-    KeyOverride width(kvnOptDoubleFieldWidth, 30);
-    igsDoubleEncoder e;
-    EXPECT_EQ(std::string(e.current_format().view()), "%-30.6G");
-    EXPECT_EQ(real(e, 3.14159265358979), "3.14159");
-    EXPECT_EQ(real(e, 1234567.0), "1.23457D+06");
-    EXPECT_EQ(real(e, 100000.0), "100000.");
-  }
-  igsDoubleEncoder e; // the keys are back at their defaults
-  double const third = 1.0 / 3.0;
-  std::string before = real(e, third);
-  EXPECT_EQ(before, "0.333333333333333");
-  e.push_format(20, 10);
-  EXPECT_EQ(std::string(e.current_format().view()), "%-20.10G");
-  EXPECT_EQ(real(e, third), "0.3333333333");
-  EXPECT_EQ(real(e, 12345678901.0), "1.23456789D+10");
-  e.push_format(5, 3);
-  EXPECT_EQ(real(e, third), "0.333");
-  e.pop_format();
-  EXPECT_EQ(real(e, third), "0.3333333333");
-  e.pop_format();
-  EXPECT_EQ(real(e, third), before);
-  // The format made at construction cannot be popped.
-  e.pop_format();
-  e.pop_format();
-  EXPECT_EQ(e.num_formats(), 1);
-  EXPECT_EQ(real(e, third), before);
-  // Precisions printf would treat specially: 0 counts as 1, a negative one as none (6).
-  e.push_format(20, 0);
-  EXPECT_EQ(real(e, 2.5), "2.");
-  EXPECT_EQ(real(e, 25.0), "2.D+01"); // a tie goes to the even digit, as in printf
-  EXPECT_EQ(real(e, 35.0), "4.D+01");
-  e.push_format(20, -4);
-  EXPECT_EQ(real(e, third), "0.333333");
-  // A precision beyond what a text can hold is cut to what fits: no overflow.
-  e.push_format(20, 5000);
-  std::string longest = real(e, -std::numeric_limits<double>::denorm_min());
-  EXPECT_LE(longest.size(), static_cast<size_t>(igsDoubleEncoder::max_text));
-  EXPECT_EQ(longest.substr(0, 8), "-4.94065");
-  EXPECT_EQ(longest.substr(longest.size() - 5), "D-324");
-}
-
 TEST(igsDoubleEncoder, MatchesPrintfForGeneratedValuesAndPrecisions) {
   std::mt19937_64 random(20261122);
   std::uniform_real_distribution<double> mantissa(-10.0, 10.0);
@@ -167,40 +98,6 @@ TEST(igsDoubleEncoder, MatchesPrintfForGeneratedValuesAndPrecisions) {
     EXPECT_EQ(mismatches, 0) << format;
     e.pop_format();
   }
-}
-
-TEST(igsStringEncoders, HollerithCountsTrimmedBytesAndStringsStayWhole) {
-  igsHolerithEncoder h;
-  struct Case {
-    utString value;
-    Pieces expected;
-  };
-  Case const cases[] = {
-      {"A B  ", {{"3H", 0}, {"A B", 1}}},
-      {utString(), {{"0H", 0}, {"", 1}}},
-      {"   ", {{"0H", 0}, {"", 1}}},
-      {"x,y;z\t\n\r\v\f ", {{"5H", 0}, {"x,y;z", 1}}},
-      {"\tlead", {{"5H", 0}, {"\tlead", 1}}},
-      {"two\nlines\rhere", {{"14H", 0}, {"two lines here", 1}}}, // no line end inside a record
-      {"\xC3\x84"
-       "B",
-       {{"3H", 0},
-        {"\xC3\x84"
-         "B",
-         1}}}, // bytes, not characters
-      {utString(std::string(120, 'q')), {{"120H", 0}, {std::string(120, 'q'), 1}}},
-  };
-  for (auto const& c : cases) {
-    EXPECT_EQ(encoded(h, c.value), c.expected) << c.value.c_str();
-    std::string kept(c.value.view()); // the value is kept untrimmed, line ends made blanks
-    for (char& ch : kept)
-      if (ch == '\n' || ch == '\r') ch = ' ';
-    EXPECT_EQ(std::string(h.value().view()), kept);
-  }
-  igsStrEncoder s;
-  EXPECT_EQ(encoded(s, utString("  AB  ")), (Pieces{{"  AB  ", 0}}));
-  EXPECT_EQ(encoded(s, utString("")), (Pieces{{"", 0}}));
-  EXPECT_EQ(s.value(), "");
 }
 
 } // namespace

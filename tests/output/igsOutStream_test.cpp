@@ -156,39 +156,6 @@ TEST(igsOutStream, StreamsThatFailOtherwise) {
   }
 }
 
-TEST(igsOutStream, BackPointerLimit) {
-  std::ostringstream out;
-  igsOutStream s(&out);
-  s.set_section(igsSectionParameter);
-  s.write_integer(1);
-  s.set_backpointer(9999999);
-  s.write_integer(2);
-  s.set_backpointer(10000000);
-  EXPECT_FALSE(s.error());
-  s.write_integer(3);
-  s.set_backpointer(10000002); // the line of back pointer 10000000 goes out without its tail
-  EXPECT_TRUE(s.frozen());
-  s.write_integer(4);
-  s.set_backpointer(10000004);
-  EXPECT_EQ(codes_of_stream(s), (Codes{igsIOBackpointerTooLarge}));
-  EXPECT_EQ(lines_of(out.str()), (Lines{record('P', 1, "1;", 1), record('P', 2, "2;", 9999999),
-                                        "3;" + repeat(' ', 78)}));
-  // Fatal for good: reset refuses and the code stays.
-  EXPECT_EQ(s.reset(), 0);
-  s.write_integer(5);
-  EXPECT_TRUE(s.error_type(igsIOBackpointerTooLarge));
-  EXPECT_EQ(s.num_lines(igsSectionParameter), 3);
-  // A back pointer too small for its columns cannot be written either.
-  std::ostringstream low;
-  igsOutStream t(&low);
-  t.set_section(igsSectionParameter);
-  t.write_integer(1);
-  t.set_backpointer(-1000000);
-  t.write_integer(2);
-  t.set_backpointer(3);
-  EXPECT_TRUE(t.error_type(igsIOBackpointerTooLarge));
-}
-
 TEST(igsOutBuffer, LineNumberLimit) {
   TailBuf tail;
   std::ostream out(&tail);

@@ -69,30 +69,7 @@ std::string const full =
 
 TEST_F(GlobalSectionTest, AFullSectionReadsWritesAndReadsBack) {
   ASSERT_EQ(read(full), 1);
-  Lines texts;
-  for (utString const* text :
-       {&global.product_id_from_sending_system(), &global.file_name(), &global.system_id(),
-        &global.preprocessor_version(), &global.product_id_for_receiving_system(),
-        &global.units().name(), &global.file_creation_date().date_string(),
-        &global.name_of_author(), &global.authors_organization(),
-        &global.file_modification_date().date_string()})
-    texts.push_back(std::string(text->view()));
-  EXPECT_EQ(texts, (Lines{"Product", "part.igs", "Sender", "5.3a", "Receive", "INCH",
-                          "20240102.030405", "Author", "Org", "20240203.040506"}));
-  std::vector<double> const numbers = {double(global.binary_bits_for_int()),
-                                       double(global.sp_max_pow10()),
-                                       double(global.sp_sig_digs()),
-                                       double(global.dp_max_pow10()),
-                                       double(global.dp_sig_digs()),
-                                       global.model_space_scale(),
-                                       double(global.units().type()),
-                                       double(global.max_number_of_line_weights()),
-                                       global.width_of_max_line_weight(),
-                                       global.minimum_resolution(),
-                                       global.max_coord_value(),
-                                       double(global.iges_version()),
-                                       double(global.drafting_standard())};
-  EXPECT_EQ(numbers, (std::vector<double>{32, 38, 6, 308, 15, 2.5, 1, 8, 0.7, 0.001, 500, 11, 3}));
+  // The lines written below pin every value read.
   EXPECT_EQ(bad_line_numbers + blank_lines, 0);
   // The stream stands at the first D line, ready for the Directory section.
   EXPECT_EQ(igs_stream_section(input->stream), igsSectionDirectory);

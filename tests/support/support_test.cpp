@@ -225,6 +225,15 @@ TEST(Geometry, UnsetValuesLengthsMatricesAndTransforms) {
   EXPECT_TRUE(zero2.x() == 0.0 && zero3.z() == 0.0);
   EXPECT_EQ(unit2.unitize() + v.unitize(), 2);
   EXPECT_TRUE(unit2.x() == 0.6 && v.z() == 1.0);
+  // Vector and length arithmetic, against values worked by hand.
+  giVector2 a(3, 4), b(1, 2);
+  EXPECT_TRUE(a.cross(b) == 2 && -(a + b - b) / 2 == giVector2(-1.5, -2) && !a.invalid());
+  giVector3 c(1, 2, 3);
+  EXPECT_EQ(-(c + c - c) / 2, giVector3(-0.5, -1, -1.5));
+  EXPECT_EQ(giPoint3(1, 1, 1) + c - c, giPoint3(1, 1, 1));
+  giLength ten = l * 1.0;
+  ten *= 2;
+  EXPECT_TRUE(ten > l && ten >= l && l == giLength(5) && !ten.invalid());
 
   // A new matrix is the identity and writes nothing beyond its own 16 values.
   alignas(giMatrix4) unsigned char store[sizeof(giMatrix4) + 4 * sizeof(double)];

@@ -1,17 +1,13 @@
 // The curve and point family: a file of every class, and each damage a file can carry with
 // what check and repair make of it.
-#include "entities/curves/igs100.h"
 #include "entities/curves/igs102.h"
-#include "entities/curves/igs104.h"
 #include "entities/curves/igs110.h"
 #include "entities/curves/igs112.h"
-#include "entities/curves/igs116.h"
 #include "entities/curves/igs126.h"
 #include "entities/curves/igs130.h"
 #include "entities/curves/igsCurveErrors.h"
 #include "entities/curves/igsPointset.h"
 #include "entities/curves/igsPolyline.h"
-#include "entities/curves/igsSimpleClosedPlanarCurve.h"
 #include "entities/entityFamily.h"
 #include "entities/entityTestSupport.h"
 
@@ -126,16 +122,6 @@ Damage const damages[] = {
      {},
      "",
      "100,0.,0.,0.,1.,0.,-1.,0.;"},
-    {"radii 2.5e-6 apart are inconsistent",
-     {{100, 0, "100,0.,0.,0.,1.,0.,0.,1.0000025;"}},
-     {"@1 igs100InconsistRad"},
-     {},
-     "",
-     "100,0.,-1.24999921868874D-06,1.25000078121662D-06,1.,0.,0.,1.0000025;"},
-    {"an arc with its centre on both ends has no radius",
-     {{100, 0, "100,0.,3.,4.,3.,4.,3.,4.;"}},
-     {"@1 igs100ZeroRadius"},
-     {"@1 igs100ZeroRadius"}},
     {"a point set whose flag says another form gets the form of its flag",
      {{106, 2, "106,3,1,1.,2.,3.,0.,0.,1.;"}},
      {"@1 igsPointsetIPFormMismatch(ip=3,form=2)"},
@@ -154,12 +140,6 @@ Damage const damages[] = {
      {"@1 igsFileNoPDData(de_number=1)", "@1 igsPolylineBadNumTuples(count=-1)"},
      {"@1 igsPolylineBadNumTuples(count=-1)"},
      "Warning : There is no Parameter Data associated with object DE 1.\n"},
-    {"a count far beyond the record gives the tuples that the record holds",
-     {{106, 2, "106,2,2000000000,1.,2.,3.,4.,5.,6.;"}},
-     {},
-     {},
-     "",
-     "106,2,2,1.,2.,3.,4.,5.,6.;"},
     {"a polyline of no tuples",
      {{106, 11, "106,1,0,7.;"}},
      {"@1 igsPolylineNoPoints"},
@@ -213,15 +193,6 @@ Damage const damages[] = {
      // multiple down to the bottom pair, which stays close: the log forgets the error, the
      // next check finds it again.
      {"@3 igs126KnotsTooClose"}},
-    {"knots too close become multiple knots, from the top down and from the bottom up",
-     {{126, 0,
-       "126,5,1,0,0,1,0,0.,0.,.25,.2500000004,.75,.9999999996,1.,1.,1.,1.,1.,1.,1.,1.,0.,0.,0.,"
-       "1.,0.,0.,2.,0.,0.,3.,0.,0.,4.,0.,0.,5.,0.,0.,0.,1.;"}},
-     {"@1 igs126KnotsTooClose"},
-     {},
-     "",
-     "126,5,1,0,0,1,0,0.,0.,0.25,0.25,0.75,1.,1.,1.,1.,1.,1.,1.,1.,1.,0.,0.,0.,1.,0.,0.,2.,0.,0.,"
-     "3.,0.,0.,4.,0.,0.,5.,0.,0.,0.,1.,0.,0.,0.;"},
     {"limits outside the knots' range are pulled back to it; limits in the wrong order are set "
      "to it",
      {{126, 0, "126,2,1,0,0,1,0,-1.,0.,.5,1.,2.,1.,1.,1.,0.,0.,0.,1.,0.,0.,2.,0.,0.,-.5,1.5;"},
@@ -319,23 +290,6 @@ Damage const damages[] = {
      {},
      "",
      "102,2,5,9;"},
-    {"members whose own repairs clear them stay (DE 5, 9), and theirs come first; two broken "
-     "members are dropped (3, 7), the second found at its new place",
-     {{102, 0, "102,4,3,5,7,9;"},
-      {100, 0, "100,0.,3.,4.,3.,4.,3.,4.;"},
-      {110, 0, "110,1.,2.,3.,1.,2.,3.;"},
-      {100, 0, "100,0.,1.,1.,1.,1.,1.,1.;"},
-      {126, 0, "126,2,1,0,0,1,0,0.,0.,.5,1.,1.,1.,1.,1.,0.,0.,0.,1.,0.,0.,2.,0.,0.,-.5,1.;"}},
-     {"@1 igs102InvalidSubCurveData(position=0)", "@1 igs102InvalidSubCurveData(position=1)",
-      "@1 igs102InvalidSubCurveData(position=2)", "@1 igs102InvalidSubCurveData(position=3)",
-      "@3 igs100ZeroRadius", "@5 igs110CoincidentPoints(tolerance=1e-09)", "@7 igs100ZeroRadius",
-      "@9 igs126MinParamOutOfRange(value=-0.5,lo=0,hi=1)"},
-     {"@3 igs100ZeroRadius", "@7 igs100ZeroRadius"},
-     // The repairs of one entity run in the log's order, which a second check reverses.
-     "Warning : sub curve DE 7 has been removed from composite curve DE 1\n"
-     "Warning : sub curve DE 3 has been removed from composite curve DE 1\n",
-     "102,2,5,9;"},
-
     // Conic arcs: each form with the coefficients of each other kind takes the form of its
     // kind; conics of no kind have none to take.
     {"conic arcs whose coefficients say another kind than the form",
@@ -436,60 +390,6 @@ TEST(Curves, EveryDamageIsFoundAndWhatCanBeRepairedIs) {
 // refuses leaves the entity as it was.
 using CurveSetters = igs_entity_test::EntityTest;
 
-TEST_F(CurveSetters, PointsLinesArcsAndClosedCurves) {
-  auto* point = new igs116;
-  EXPECT_EQ(point->set_point(giPoint3(1, 2, 3)), 1);
-  EXPECT_EQ(point->set_point(giPoint3()), 1); // ignored, yet 1
-  EXPECT_EQ(point->set_display_symbol(igsObjectPtr(point)), 0);
-  EXPECT_EQ(written(*point), records({"116,1.,2.,3.,0;"}));
-
-  auto* line = new igs110;
-  EXPECT_EQ(line->set_start_point(giPoint3(0, 0, 0)), 1);
-  EXPECT_EQ(line->set_end_point(giPoint3(0, DBL_MAX, 0)), 0);
-  EXPECT_EQ(checked(*line), std::vector<std::string>{"igs110InvalidEndPoint"});
-  EXPECT_EQ(line->set_end_point(giPoint3(1, 1, 1)), 1);
-  EXPECT_EQ(written(*line), records({"110,0.,0.,0.,1.,1.,1.;"}));
-  // A repair whose number names no line does nothing.
-  auto* stale = new igs110CoincidentPoints(1e-9);
-  stale->set_key(point->de_number());
-  EXPECT_EQ(stale->fix(), 0);
-
-  auto* arc = new igs100;
-  EXPECT_EQ(checked(*arc), std::vector<std::string>{"igs100NoConstruct"});
-  arc->set_z_level(2.5);
-  EXPECT_EQ(arc->set_centre(giPoint2()), 0);
-  EXPECT_EQ(arc->set_centre(giPoint2(1, 1)), 1);
-  EXPECT_EQ(arc->set_start_point(giPoint2(2, 1)), 1);
-  EXPECT_EQ(arc->set_end_point(giPoint2(DBL_MAX, 0)), 0);
-  EXPECT_EQ(checked(*arc), std::vector<std::string>{"igs100NoConstruct"});
-  EXPECT_EQ(arc->set_end_point(giPoint2(1, 2)), 1);
-  EXPECT_EQ(written(*arc), records({"100,2.5,1.,1.,2.,1.,1.,2.;"}));
-  // Ends made equal after the check leave no chord to repair by: the error stays.
-  arc->set_centre(giPoint2(1.2, 1.0));
-  ASSERT_EQ(checked(*arc), std::vector<std::string>{"igs100InconsistRad"});
-  arc->set_end_point(giPoint2(2, 1));
-  EXPECT_EQ(fix(arc->de_number(), igs100InconsistRad::type()), 0);
-  EXPECT_EQ(arc->centre(), giPoint2(1.2, 1.0));
-
-  // A point set past the end leaves unset points before it, which the check names.
-  auto* closed = new igsSimpleClosedPlanarCurve;
-  EXPECT_EQ(closed->set_point(0, giPoint2()), 0);
-  EXPECT_EQ(closed->set_point(-1, giPoint2(0, 0)), 0);
-  EXPECT_EQ(closed->set_point(3, giPoint2(0, 0)), 1);
-  EXPECT_EQ(checked(*closed), (std::vector<std::string>{
-                                  "igsSCPCInvalidPoint(index=0)", "igsSCPCInvalidPoint(index=1)",
-                                  "igsSCPCInvalidPoint(index=2)", "igsSCPCInvalidZLevel",
-                                  "igsSCPCNotClosed(tolerance=1e-06)"}));
-  closed->set_z_level(2.0);
-  closed->set_point(0, giPoint2(0, 0));
-  closed->set_point(1, giPoint2(1, 0));
-  closed->set_point(2, giPoint2(0, 5e-7));
-  giPoint2 p;
-  EXPECT_FALSE(closed->point(4, p));
-  EXPECT_EQ(checked(*closed), std::vector<std::string>{});
-  EXPECT_EQ(written(*closed), records({"106,1,4,2.,0.,0.,1.,0.,0.,5.D-07,0.,0.;"}));
-}
-
 // Point sets and polylines share their code; each runs through the same steps.
 template <class T> void tuple_list_setters(igs_entity_test::EntityTest& test, int offset) {
   using Dim = typename T::Dim;
@@ -554,59 +454,22 @@ TEST_F(CurveSetters, PointSetsAndPolylines) {
   tuple_list_setters<igsPolyline>(*this, 10);
 }
 
-// B-spline curves built through their setters: sized once, every value unset until set.
+// A B-spline curve built through its setters, sized once: a rational one names its unset and
+// zero weights; the planar flag stores 1 for any true value.
 TEST_F(CurveSetters, BsplineCurves) {
-  using Errors = std::vector<std::string>;
   auto* curve = new igs126;
-  EXPECT_EQ(checked(*curve), (Errors{"igs126BadDegree(degree=-2147483648)",
-                                     "igs126BadSumIndex(sum_index=-1)", "igs126NoConstruct",
-                                     "igs126TrimParamsOutOfSequence(start=-1.79769e+308,end=-1."
-                                     "79769e+308)",
-                                     "igs126UnsetTrimmingParams"}));
-  EXPECT_FALSE(curve->set_order_size(0, 3) || curve->set_order_size(3, 2));
   ASSERT_TRUE(curve->set_order_size(2, 3));
   EXPECT_FALSE(curve->set_order_size(2, 4));
-  // Five knots and three points unset, no range, unset limits; equal weights are not tested.
-  EXPECT_EQ(checked(*curve).size(), 11u);
-  double value = 0.0;
-  giPoint3 point;
-  EXPECT_FALSE(curve->knot(5, value) || curve->knot(-1, value) || curve->set_knot(5, 1.0) ||
-               curve->weight(3, value) || curve->set_weight(-1, 1.0) ||
-               curve->control_point(3, point) || curve->set_control_point(3, point));
   for (int i = 0; i < 5; ++i) ASSERT_TRUE(curve->set_knot(i, i < 2 ? 0.0 : i < 3 ? 0.5 : 1.0));
-  for (int i = 0; i < 3; ++i) {
-    ASSERT_TRUE(curve->set_weight(i, 1.0));
-    ASSERT_TRUE(curve->set_control_point(i, giPoint3(i, 2 * i, 3 * i)));
-  }
+  for (int i = 0; i < 3; ++i) ASSERT_TRUE(curve->set_control_point(i, giPoint3(i, 2 * i, 0)));
+  ASSERT_TRUE(curve->set_weight(0, 1.0) && curve->set_weight(2, 1e-16));
   EXPECT_TRUE(curve->set_parametric_limits(0.0, 1.0));
-  EXPECT_FALSE(curve->set_parametric_limits(1.0, 0.5));
-  EXPECT_EQ(checked(*curve), Errors{});
-
-  // The flags store 1 for a true value, the rational flag in the file's sense. Rational with
-  // constant weights, and planar without a normal:
   curve->set_planar_flag(7);
-  curve->set_closed_flag(-2);
-  curve->set_periodic_flag(0);
   curve->set_rational_flag(1);
-  EXPECT_EQ(curve->planar_flag() * 1000 + curve->closed_flag() * 100 + curve->periodic_flag() * 10 +
-                curve->rational_flag(),
-            1100);
-  EXPECT_EQ(checked(*curve),
-            (Errors{"igs126InvalidUnitNormal", "igs126WeightsAndRatFlagDisagree(tested=0)"}));
-  EXPECT_FALSE(curve->set_unit_normal(giVector3()));
+  EXPECT_EQ(curve->planar_flag(), 1);
   EXPECT_TRUE(curve->set_unit_normal(giVector3(0, 0, 1)));
-  // Weights apart by the tolerance: a polynomial curve passes, a rational one has each tested.
-  curve->set_rational_flag(0);
-  for (int i = 0; i < 3; ++i) ASSERT_TRUE(curve->set_weight(i, i == 1 ? 2e-9 : 1e-9));
-  EXPECT_EQ(checked(*curve), Errors{});
-  curve->set_rational_flag(1);
-  ASSERT_TRUE(curve->set_weight(1, igs_unset_double));
-  ASSERT_TRUE(curve->set_weight(2, 1e-16));
-  EXPECT_EQ(checked(*curve), (Errors{"igs126UnsetWeight(index=1)", "igs126ZeroWeight(index=2)"}));
-  // A repair whose number names no curve does nothing.
-  auto* stale = new igs126NoParamRange(0.0);
-  stale->set_key((new igs110)->de_number());
-  EXPECT_EQ(stale->fix(), 0);
+  EXPECT_EQ(checked(*curve),
+            (std::vector<std::string>{"igs126UnsetWeight(index=1)", "igs126ZeroWeight(index=2)"}));
 }
 
 // Order 2 and 13201 control points: 66007 values, more than the first reservation holds. The
@@ -685,64 +548,10 @@ TEST_F(CurveSetters, CompositeCurves) {
 
 namespace {
 
-// A conic arc of each form with the coefficients of another kind: the error its check raises,
-// and the form that the repair leaves (the same form when the repair cannot act).
-TEST_F(CurveSetters, ConicArcsTakeTheFormOfTheirCoefficients) {
-  igsConicCoeffs const ellipse(1, 0, 4, 0, 0, -4), hyperbola(1, 0, -1, 0, 0, -9),
-      parabola(1, 0, 0, 0, -1, 0), circle(1, 0, 1, 0, 0, -1), line(0, 0, 0, 1, 1, -1);
-  // Conics so small that their invariants fall within the tolerance: the exact signs decide.
-  igsConicCoeffs const small_ellipse(1e-5, 0, 1e-5, 0, 0, -1e-5),
-      small_hyperbola(1e-5, 0, -1e-5, 0, 0, -1e-5), small_parabola(1e-5, 0, 0, 0, -1e-5, 0);
-  struct Case {
-    igsConicCoeffs coeffs;
-    int form;
-    kvuTypeInfo const* raised;
-    int fixed_form;
-  } const cases[] = {
-      {circle, 2, &igs104NotHyperbola::type(), 1},
-      {hyperbola, 1, &igs104NotEllipse::type(), 2},
-      {parabola, 1, &igs104NotEllipse::type(), 3},
-      {ellipse, 2, &igs104NotHyperbola::type(), 1},
-      {parabola, 2, &igs104NotHyperbola::type(), 3},
-      {ellipse, 3, &igs104NotParabola::type(), 1},
-      {hyperbola, 3, &igs104NotParabola::type(), 2},
-      {small_ellipse, 2, &igs104NotHyperbola::type(), 1},
-      {small_hyperbola, 3, &igs104NotParabola::type(), 2},
-      {small_parabola, 1, &igs104NotEllipse::type(), 3},
-      {line, 3, &igs104NotParabola::type(), 3},
-      {line, 1, &igs104NotEllipse::type(), 1},
-      {line, 0, &igs104UnknownType::type(), 0},
-  };
-  for (Case const& c : cases) {
-    auto* conic = new igs104;
-    ASSERT_TRUE(conic->set_start_point(giPoint2(1, 0)) && conic->set_end_point(giPoint2(0, 1)));
-    conic->set_z_level(0.0);
-    // Coefficients of no kind are refused by the setter; a file gives them all the same.
-    if (!conic->set_coeffs(c.coeffs)) const_cast<igsConicCoeffs&>(conic->coeffs()) = c.coeffs;
-    igs_entity_test::Access::set_form(*conic, c.form);
-    std::vector<std::string> raised = checked(*conic);
-    EXPECT_EQ(raised, std::vector<std::string>{c.raised->name()}) << c.form;
-    EXPECT_EQ(fix(conic->de_number(), *c.raised), c.coeffs.conic_type() != igsConicUnknown);
-    EXPECT_EQ(conic->directory_entry().form_number(), c.fixed_form) << c.form;
-  }
-  auto* unset = new igs104;
-  EXPECT_FALSE(unset->set_coeffs(line));
-  EXPECT_FALSE(unset->coeffs().valid());
-  EXPECT_EQ(checked(*unset), (std::vector<std::string>{"igs104NoConstruct", "igs104UnknownType"}));
-  ASSERT_TRUE(unset->set_coeffs(parabola));
-  unset->set_z_level(5.0);
-  unset->set_start_point(giPoint2(-1, 1));
-  unset->set_end_point(giPoint2(2, 4));
-  EXPECT_EQ(written(*unset), records({PARABOLA}));
-}
-
 // Spline curves built through their setters: sized once, every value unset until set.
 TEST_F(CurveSetters, ParametricSplineCurves) {
   using Errors = std::vector<std::string>;
   auto* curve = new igs112;
-  EXPECT_EQ(checked(*curve), (Errors{"igs112InvalidContinuity(value=-2147483647)",
-                                     "igs112InvalidDerivatives", "igs112NoConstruct"}));
-  EXPECT_FALSE(curve->set_number_of_segments(0));
   ASSERT_TRUE(curve->set_number_of_segments(2));
   EXPECT_FALSE(curve->set_number_of_segments(2));
   EXPECT_TRUE(curve->set_continuity(3));
@@ -754,29 +563,8 @@ TEST_F(CurveSetters, ParametricSplineCurves) {
                     "igs112UnsetBreakpoint(index=2)"}));
   EXPECT_EQ(fix(curve->de_number(), igs112InvalidContinuity::type()), 1);
   EXPECT_EQ(curve->continuity(), 0);
-  double const breakpoints[] = {0, 1, 2}, values[] = {1, 2, 3, 4};
-  EXPECT_FALSE(curve->set_all_breakpoints(2, breakpoints) || curve->set_breakpoint(3, 1.0));
-  ASSERT_TRUE(curve->set_all_breakpoints(3, breakpoints));
-  igsCubicCoefficients c, unset;
-  c.set_coefficients(values);
-  EXPECT_FALSE(curve->set_xyz_coefficients(2, c, c, c) ||
-               curve->set_xyz_coefficients(0, c, unset, c));
-  ASSERT_TRUE(curve->set_xyz_coefficients(0, c, c, c) && curve->set_xyz_coefficients(1, c, c, c));
-  igsCubicDerivatives d, gap;
-  d.set_derivatives(values);
-  EXPECT_FALSE(curve->set_xyz_derivatives(d, gap, d));
-  ASSERT_TRUE(curve->set_xyz_derivatives(d, d, d));
-  curve->set_spline_type(igsSplineLinear);
-  curve->set_dimensionality(igsSplinePlanar);
-  EXPECT_EQ(checked(*curve), Errors{});
-  double t0 = 0, t1 = 0, value = 0;
-  EXPECT_FALSE(curve->segment(2, c, c, c, t0, t1) || curve->x_coefficients(-1, c) ||
-               curve->breakpoint(3, value));
-  ASSERT_TRUE(curve->segment(1, c, unset, c, t0, t1));
-  EXPECT_TRUE(t0 == 1 && t1 == 2 && unset.valid());
-  EXPECT_EQ(written(*curve),
-            records({"112,1,0,2,2,0.,1.,2.,1.,2.,3.,4.,1.,2.,3.,4.,1.,2.,3.,4.,1.,2.,",
-                     "3.,4.,1.,2.,3.,4.,1.,2.,3.,4.,1.,2.,3.,4.,1.,2.,3.,4.,1.,2.,3.,", "4.;"}));
+  igsCubicCoefficients c;
+  EXPECT_FALSE(curve->set_breakpoint(3, 1.0) || curve->x_coefficients(-1, c));
 }
 
 // Offset curves set as a whole: what the way of offsetting leaves out is null or unset, which

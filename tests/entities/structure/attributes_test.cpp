@@ -49,10 +49,6 @@ Record font(int form, char const* data, int line_font) {
 }
 
 Damage const damages[] = {
-    {"a colour definition whose own colour is none is given the nearest colour number",
-     {{314, 0, "314,50.,10.,50.,3HODD;"}},
-     {"@1 igs314InvalidDEColourNumber"},
-     {}},
     {"a colour beyond the percentages, naming another definition",
      {{314, 0, "314,101.,-1.,100.5;", 0, -3}, {314, 0, "314,0.,0.,0.;", 0, 1}},
      {"@1 igs314InvalidBlueCoordinate", "@1 igs314InvalidDEColourNumber",
@@ -85,12 +81,6 @@ Damage const damages[] = {
               "@1 igs312InvalidSlantAngle(angle=1.79769e+308)",
               "@1 igs312InvalidTextAlignmentFlag(value=2)",
               "@1 igs312InvalidTextMirrorFlag(value=3)"}),
-    {"a text template of a font code of no font keeps the font it had",
-     {{312, 0, "312,1.,1.,5,0.,0.,0,0,0.,0.,0.;"}},
-     {},
-     {},
-     {},
-     "312,1.,1.,1,0.,0.,0,0,0.,0.,0.;"},
     {"a name property of two properties is given up as it is read",
      {{406, 15, "406,2,1HA,1HB;"}, {116, 0, "116,0.,0.,0.,0;"}},
      {"@1 igs406BadNumProperties", "@1 igsFileNoPDData(de_number=1)"},
@@ -103,27 +93,6 @@ Damage const damages[] = {
 
 TEST(Attributes, EveryDamageIsFoundAndWhatCanBeRepairedIs) {
   for (Damage const& damage : damages) expect_damage(damage);
-}
-
-// Each percentage counts as on from 50.0; the colour number that a colour definition's own
-// Directory Entry is repaired to is the nearest of the eight.
-TEST(Attributes, AColourDefinitionTakesTheNearestColourNumber) {
-  struct Row {
-    char const* data;
-    char const* name;
-  } const rows[] = {
-      {"314,49.9,49.9,49.9;", "Black"}, {"314,0.,0.,50.;", "Blue"},
-      {"314,0.,50.,0.;", "Green"},      {"314,0.,100.,100.;", "Cyan"},
-      {"314,50.,0.,0.;", "Red"},        {"314,50.,10.,50.;", "Magenta"},
-      {"314,100.,100.,0.;", "Yellow"},  {"314,50.,50.,50.;", "White"},
-  };
-  for (Row const& r : rows) {
-    int result = 0;
-    auto file = igs_test::read_text(file_text({{314, 0, r.data}}), result);
-    file->clean(0);
-    EXPECT_EQ(igsObjectPtr(1)->directory_entry().colour().colour_name(), utString(r.name))
-        << r.data;
-  }
 }
 
 // A line's colour definition gives the line its name; a font code of no font leaves the font

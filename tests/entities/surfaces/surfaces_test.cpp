@@ -1,17 +1,10 @@
 // The surface family: planes, parametric spline surfaces, ruled surfaces, surfaces of
 // revolution, tabulated cylinders and the analytic surfaces in both forms; a file of every
-// class, each damage a file can carry with what check and repair make of it, and the setters.
-#include "core/igsCurrentFileScope.h"
+// class, each damage a file can carry with what check and repair make of it, and the setters
+// of the spline surface.
 #include "entities/entityFamily.h"
 #include "entities/entityTestSupport.h"
-#include "entities/surfaces/igs108.h"
 #include "entities/surfaces/igs114.h"
-#include "entities/surfaces/igs118.h"
-#include "entities/surfaces/igs120.h"
-#include "entities/surfaces/igs122.h"
-#include "entities/surfaces/igs194_1.h"
-#include "entities/surfaces/igs198_0.h"
-#include "entities/surfaces/igsSurfaceErrors.h"
 
 using namespace igs_family_test;
 
@@ -110,24 +103,8 @@ Damage const damages[] = {
          {108, 0, "108,0.,0.,1.,0.,0," + lowest + ",0.,0.,0.;"}},
         {"@1 igs108NegativeSymbolSize(size=-1)", "@1 igs108NoConstruct",
          "@3 igs108InvalidSymbolPosition"}),
-    {"a bounded plane on a point set gets a polyline in its place",
-     {{108, 1, "108,0.,0.,1.,0.,3,0.,0.,0.,0.;"}, point_set},
-     {"@1 igs108InvalidBoundaryType"},
-     {},
-     "",
-     "108,0.,0.,1.,0.,3,0.,0.,0.,0.;"},
-    {"a bounded plane on a point set that a point's symbol shares gets a polyline of its own",
-     {{108, 1, "108,0.,0.,1.,0.,3,0.,0.,0.,0.;"}, point_set, {116, 0, "116,0.,0.,0.,3;"}},
-     {"@1 igs108InvalidBoundaryType"},
-     {},
-     "",
-     "108,0.,0.,1.,0.,7,0.,0.,0.,0.;"},
     stays("a bounded plane on a point", {{108, 1, "108,0.,0.,1.,0.,3,0.,0.,0.,0.;"}, point},
           {"@1 igs108InvalidBoundaryType"}),
-    {"a plane bounding a hole on an arc off centre is kept once the arc is repaired",
-     {{108, -1, "108,0.,0.,1.,0.,3,0.,0.,0.,0.;"}, off_centre_arc},
-     {"@1 igs108InvalidBoundaryCurveData", "@3 igs100InconsistRad"},
-     {}},
     stays("a bounded plane on an arc of no radius",
           {{108, 1, "108,0.,0.,1.,0.,3,0.,0.,0.,0.;"}, no_radius_arc},
           {"@1 igs108InvalidBoundaryCurveData", "@3 igs100ZeroRadius"}),
@@ -148,24 +125,14 @@ Damage const damages[] = {
      {"@1 igs118InvalidRailCurve1Data", "@1 igs118InvalidRailCurve2Data", "@3 igs100InconsistRad",
       "@5 igs100ZeroRadius"},
      {"@1 igs118InvalidRailCurve2Data", "@5 igs100ZeroRadius"}},
-    stays("a ruled surface on a plane", {{118, 0, "118,3,5,0,0;"}, plane, line},
-          {"@1 igs118InvalidRailCurve1Type"}),
 
     // Surfaces of revolution.
-    {"an inverted sweep is turned round",
-     {{120, 0, "120,3,5,1.,0.;"}, line, arc},
-     {"@1 igs120InvalidSweepAngle(sweep=-1)"},
-     {},
-     "",
-     "120,3,5,0.,1.;"},
     {"an inverted full turn is turned round",
      {{120, 0, "120,3,5,6.283185307179586,0.;"}, line, arc},
      {"@1 igs120InvalidSweepAngle(sweep=-6.28319)"},
      {},
      "",
      "120,3,5,0.,6.28318530717959;"},
-    stays("a sweep of more than a full turn stays", {{120, 0, "120,3,5,0.,7.;"}, line, arc},
-          {"@1 igs120InvalidSweepAngle(sweep=7)"}),
     {"a sweep of nothing becomes a full turn",
      {{120, 0, "120,3,5,0.5,0.5;"}, line, arc},
      {"@1 igs120ZeroSweepAngle(end_angle=0.5)"},
@@ -190,11 +157,6 @@ Damage const damages[] = {
       "@5 igs100InconsistRad"},
      {"@1 igs120InvalidAxisData", "@3 igs110InvalidEndPoint"}},
 
-    {"a surface whose axis line has no colour of the table is kept once the line is repaired",
-     {{120, 0, "120,3,5,0.,1.;"}, {110, 0, "110,0.,0.,0.,0.,0.,1.;", 0, 9}, arc},
-     {"@1 igs120InvalidAxisData", "@3 igsDEInvalidColour"},
-     {}},
-
     // Tabulated cylinders.
     stays("a tabulated cylinder without a directrix, its end point unset",
           {{122, 0, "122,0," + lowest + ",0.,0.;"}},
@@ -209,11 +171,6 @@ Damage const damages[] = {
      {}},
 
     // Parametric spline surfaces.
-    {"a spline surface of no patches in U is not read",
-     {{114, 0, "114,3,1,0,1;"}},
-     {"@1 igs114BadNumUPatches(count=0)", "@1 igsFileNoPDData(de_number=1)"},
-     {"@1 igs114BadNumUPatches(count=0)"},
-     no_data_1},
     {"a spline surface of a negative count in V is not read",
      {{114, 0, "114,3,1,1,-1;"}},
      {"@1 igs114BadNumVPatches(count=-1)", "@1 igsFileNoPDData(de_number=1)"},
@@ -290,72 +247,9 @@ TEST(Surfaces, EveryDamageIsFoundAndWhatCanBeRepairedIs) {
   for (Damage const& damage : damages) expect_damage(damage);
 }
 
-// The repairs of the point and the direction come first; they settle the errors of the plane
-// surfaces that name them, and not those of the cylinder.
-TEST(Surfaces, OnlyAPlaneSurfaceIsClearedByItsChildsRepairs) {
-  int result = 0;
-  auto file = igs_test::read_text(file_text(coloured_children), result);
-  igsCurrentFileScope current(*file);
-  file->clean(0);
-  EXPECT_EQ(igsObjectPtr(1)->num_logged_errors(), 0);
-  EXPECT_EQ(igsObjectPtr(3)->num_logged_errors(), 2);
-  EXPECT_EQ(igsObjectPtr(11)->num_logged_errors(), 0);
-}
-
 // Built through their setters, the classes write what a file of them reads; what a setter
 // refuses leaves the entity as it was.
 using SurfaceSetters = igs_entity_test::EntityTest;
-
-TEST_F(SurfaceSetters, PlanesAndSweptSurfaces) {
-  auto* plane = new igs108;
-  // Unset, the size counts as negative.
-  EXPECT_EQ(checked(*plane),
-            (std::vector<std::string>{"igs108NegativeSymbolSize(size=-1.79769e+308)",
-                                      "igs108NoConstruct"}));
-  EXPECT_EQ(plane->set_planar_coefficients(0, 0, 0, 5), 0);
-  EXPECT_EQ(plane->set_planar_coefficients(0, 0, 1e-300, 5), 1);
-  EXPECT_EQ(plane->set_boundary_curve(igsObjectPtr()), 0);
-  EXPECT_EQ(plane->set_display_symbol(giPoint3(), 2.0), 0);
-  EXPECT_EQ(plane->set_display_symbol(giPoint3(1, 2, 3), -1.0), 1);
-  EXPECT_EQ(checked(*plane), (std::vector<std::string>{"igs108AllCoeffsTooSmall",
-                                                       "igs108NegativeSymbolSize(size=-1)"}));
-  EXPECT_EQ(written(*plane), records({"108,0.,0.,1.D-300,5.,0,1.,2.,3.,-1.;"}));
-  // A bounded plane without its curve is made unbounded, and the error settled; the repair of
-  // a plane gone from its number does nothing.
-  igs_entity_test::Access::set_form(*plane, 1);
-  EXPECT_EQ(checked(*plane), (std::vector<std::string>{"igs108AllCoeffsTooSmall",
-                                                       "igs108NegativeSymbolSize(size=-1)",
-                                                       "igs108NullBoundaryCurvePtr"}));
-  EXPECT_EQ(fix(plane->de_number(), igs108NullBoundaryCurvePtr::type()), 1);
-  EXPECT_EQ(plane->directory_entry().form_number(), 0);
-  auto* stale = new igs108NullBoundaryCurvePtr;
-  stale->set_key(plane->de_number() + 2);
-  EXPECT_EQ(stale->fix(), 0);
-
-  auto* point = new igs116;
-  auto* ruled = new igs118;
-  EXPECT_EQ(ruled->set_rail_curve_1(igsObjectPtr()), 0);
-  EXPECT_EQ(ruled->set_rail_curve_1(point), 1);
-  EXPECT_EQ(ruled->set_rail_curve_2(plane), 1); // the kind is the check's to judge
-  EXPECT_EQ(written(*ruled), records({"118,3,1,0,0;"}));
-
-  auto* revolved = new igs120;
-  EXPECT_EQ(checked(*revolved),
-            (std::vector<std::string>{"igs120NullAxisPtr", "igs120NullGeneratrixPtr",
-                                      "igs120ZeroSweepAngle(end_angle=-2.14748e+09)"}));
-  double const turn = 6.283185307179586;
-  EXPECT_EQ(revolved->set_axis(igsObjectPtr()), 0);
-  EXPECT_EQ(revolved->set_start_end_angle(1, 1), 0);
-  EXPECT_EQ(revolved->set_start_end_angle(0, turn + 5e-10), 0); // the check would pass it
-  EXPECT_EQ(revolved->set_start_end_angle(0, turn), 1);
-  EXPECT_EQ(revolved->end_angle(), turn);
-
-  auto* tabulated = new igs122;
-  EXPECT_EQ(tabulated->set_directrix(igsObjectPtr()), 0);
-  EXPECT_EQ(tabulated->set_generatrix_end_point(giPoint3()), 0);
-  EXPECT_EQ(tabulated->set_generatrix_end_point(giPoint3(0, 0, 1)), 1);
-  EXPECT_EQ(checked(*tabulated), std::vector<std::string>{"igs122NullDirectrixPtr"});
-}
 
 TEST_F(SurfaceSetters, SplineSurfaces) {
   auto* surface = new igs114;
@@ -399,41 +293,6 @@ TEST_F(SurfaceSetters, SplineSurfaces) {
   EXPECT_EQ(errors[0], "igs114InvalidPatch(u=0,v=0)");
   EXPECT_EQ(errors.back(),
             "igs114VBreakpointOutOfSequence(index=2,value=-1.79769e+308,previous=5)");
-}
-
-// Types out of their ranges print as unknown.
-TEST(Surfaces, SplineSurfaceTypesOutOfRange) {
-  int result = 0;
-  auto file = igs_test::read_text(
-      file_text({{114, 0, "114,7,2,1,1,0.,1.,0.,1." + patches(4) + ";"}}), result);
-  igsCurrentFileScope current(*file);
-  std::string text = igs_entity_test::EntityTest::printed(*igsObjectPtr(1));
-  EXPECT_NE(text.find("SplineType = 7(Unknown)\nPatchType = 2(Unknown)\n"), std::string::npos)
-      << text;
-}
-
-TEST_F(SurfaceSetters, AnalyticSurfaces) {
-  auto* point = new igs116;
-  auto* torus = new igs198_0;
-  EXPECT_EQ(checked(*torus), (std::vector<std::string>{"igs198_0NoMajorRadiusDefined",
-                                                       "igs198_0NoMinorRadiusDefined",
-                                                       "igs198_0NullAxis", "igs198_0NullCentre"}));
-  EXPECT_EQ(torus->set_centre(point), 1);
-  EXPECT_EQ(torus->set_radii(2.0, 3.0), 1); // the check judges them
-  // The point has no coordinates yet.
-  EXPECT_EQ(checked(*torus),
-            (std::vector<std::string>{"igs198_0InvalidCentre", "igs198_0InvalidRadii",
-                                      "igs198_0NullAxis"}));
-  EXPECT_EQ(torus->major_radius(), 2.0);
-  EXPECT_EQ(written(*torus), records({"198,1,0,2.,3.;"}));
-
-  auto* cone = new igs194_1;
-  EXPECT_EQ(cone->set_location(igsObjectPtr()), 1);
-  EXPECT_EQ(cone->set_axis(point), 1);
-  EXPECT_EQ(cone->set_reference(point), 1);
-  EXPECT_EQ(cone->set_radius(1.5), 1);
-  EXPECT_EQ(cone->set_semi_angle(45.0), 1);
-  EXPECT_EQ(written(*cone), records({"194,0,1,1.5,45.,1;"}));
 }
 
 } // namespace

@@ -2,15 +2,6 @@
 // surfaces, bounded and trimmed surfaces; a file of every class, and each damage a file can
 // carry with what check and repair make of it.
 #include "entities/entityFamily.h"
-#include "entities/curves/igs110.h"
-#include "entities/entityTestSupport.h"
-#include "entities/surfaces/igs128.h"
-#include "entities/surfaces/igs140.h"
-#include "entities/surfaces/igs141.h"
-#include "entities/surfaces/igs142.h"
-#include "entities/surfaces/igs144.h"
-
-#include <cmath>
 
 using namespace igs_family_test;
 
@@ -106,15 +97,6 @@ Damage const damages[] = {
      {},
      "",
      bilinear("0,0,1,0,0", "0.,0.,1.,1.,0.,0.,2.,2.", "1.,1.,1.,1.", "0.,1.,0.,2.")},
-    {"knots closer than the tolerance become multiple knots",
-     {{128, 0, "128,3,1,1,1,0,0,1,0,0,0.,0.,1.,1.0000000001,2.,2.,0.,0.,1.,1.,1.,1.,1.,1.,1.,1.,"
-               "1.,1.,0.,0.,0.,1.,0.,0.,1.,0.,0.,2.,0.,0.,0.,1.,0.,1.,1.,0.,1.,1.,0.,2.,1.,0.,0.,"
-               "2.,0.,1.;"}},
-     {"@1 igs128UKnotsTooClose"},
-     {},
-     "",
-     "128,3,1,1,1,0,0,1,0,0,0.,0.,1.,1.,2.,2.,0.,0.,1.,1.,1.,1.,1.,1.,1.,1.,1.,1.,0.,0.,0.,1.,0.,"
-     "0.,1.,0.,0.,2.,0.,0.,0.,1.,0.,1.,1.,0.,1.,1.,0.,2.,1.,0.,0.,2.,0.,1.;"},
     {"weights 1, 1, 0, 2 make the surface rational; the zero weight stays",
      {{128, 0, bilinear("0,0,1,0,0", "0.,0.,1.,1.,0.,0.,1.,1.", "1.,1.,0.,2.")}},
      {"@1 igs128WeightsAndRatFlagDisaggree", "@1 igs128ZeroWeight(u_index=0,v_index=1)"},
@@ -155,11 +137,6 @@ Damage const damages[] = {
     // Boundaries.
     stays("a boundary of no surface and no curves", {{141, 0, "141,0,0,0,0;"}},
           {"@1 igs141BadNumModelSpaceCurves(count=0)", "@1 igs141NullSurfacePtr"}),
-    {"a boundary of a negative count of curves is not read",
-     {{141, 0, "141,0,0,3,-1;"}, surface},
-     {"@1 igs141BadNumModelSpaceCurves(count=-1)", "@1 igsFileNoPDData(de_number=1)"},
-     {"@1 igs141BadNumModelSpaceCurves(count=-1)"},
-     no_data_1},
     {"a boundary of a negative count of parameter curves is not read",
      {{141, 0, "141,0,0,3,1,5,1,-2;"}, surface, line},
      {"@1 igs141BadNumAssocParamCurves(curve=0,count=-2)", "@1 igsFileNoPDData(de_number=1)"},
@@ -189,24 +166,6 @@ Damage const damages[] = {
      {"@1 igs141InvalidSurfaceType"}},
 
     // Curves on surfaces.
-    {"a curve on a surface of a method and preference out of range",
-     {on_surface("7,3,5,5,-1"), surface, line},
-     {"@1 igs142InvalidCurveCreation(value=7)", "@1 igs142InvalidPrefRepresentation(value=-1)"},
-     {},
-     "",
-     "142,0,3,5,5,0;"},
-    {"a curve in parameter space of no kind of curve is given up for a sound model-space curve",
-     {on_surface("0,3,5,7,1"), surface, plane, line},
-     {"@1 igs142InvalidCurve2dType"},
-     {},
-     "",
-     "142,0,3,0,7,2;"},
-    {"a point as the model-space curve is given up for the curve in parameter space",
-     {on_surface("0,3,5,7,3"), surface, line, point},
-     {"@1 igs142InvalidCurve3dType"},
-     {},
-     "",
-     "142,0,3,5,0,1;"},
     stays("a curve in parameter space of no kind of curve stays when it is the only one",
           {on_surface("0,3,5,0,1"), surface, plane}, {"@1 igs142InvalidCurve2dType"}),
     {"a point set as the model-space curve is replaced by a polyline",
@@ -227,12 +186,6 @@ Damage const damages[] = {
      {"@1 igs142Trim2DNonParametricSurface", "@3 igs142Trim2DNonParametricSurface"}},
 
     // Bounded surfaces.
-    {"a bounded surface gets back the surface its boundaries lie on",
-     {{143, 0, "143,1,0,2,3,3;"}, {141, 0, "141,1,0,5,1,7,1,0;"}, surface, line},
-     {"@1 igs143NullSurfacePtr"},
-     {},
-     "",
-     "143,1,5,2,3,3;"},
     stays("a bounded surface of no surface and no boundaries", {{143, 0, "143,0,0,0;"}},
           {"@1 igs143NoBoundaries", "@1 igs143NullSurfacePtr"}),
     stays("a bounded surface of a representation out of range, a missing boundary, a curve on a "
@@ -299,97 +252,6 @@ Damage const damages[] = {
 
 TEST(Trimmed, EveryDamageIsFoundAndWhatCanBeRepairedIs) {
   for (Damage const& damage : damages) expect_damage(damage);
-}
-
-// Built through their setters, the classes write what a file of them reads; what a setter
-// refuses leaves the entity as it was.
-using TrimmedSetters = igs_entity_test::EntityTest;
-
-TEST_F(TrimmedSetters, SplineSurface) {
-  auto* surface = new igs128;
-  EXPECT_EQ(checked(*surface),
-            (std::vector<std::string>{"igs128BadUDegree(degree=-2147483648)",
-                                      "igs128BadUSumIndex(sum_index=-1)",
-                                      "igs128BadVDegree(degree=-2147483648)",
-                                      "igs128BadVSumIndex(sum_index=-1)", "igs128NoConstruct",
-                                      "igs128TrimParamsUOutOfSequence(start=-1.79769e+308,end=-1."
-                                      "79769e+308)",
-                                      "igs128TrimParamsVOutOfSequence(start=-1.79769e+308,end=-1."
-                                      "79769e+308)",
-                                      "igs128UnsetTrimmingParams"}));
-  EXPECT_EQ(surface->set_order_size(2, 0, 2, 2), 0);
-  EXPECT_EQ(surface->set_order_size(2, 2, 2, 1), 0);
-  ASSERT_EQ(surface->set_order_size(2, 2, 3, 2), 1);
-  EXPECT_EQ(surface->set_order_size(2, 2, 3, 2), 0); // sized once
-  EXPECT_EQ(surface->number_of_knots_u(), 5);
-  double value = 7.0;
-  EXPECT_EQ(surface->knot_u(5, value), 1); // out of range: the value stays
-  EXPECT_EQ(value, 7.0);
-  EXPECT_EQ(surface->set_knot_v(4, 1.0), 0);
-  EXPECT_EQ(surface->set_knot_v(3, 1.0), 1);
-  EXPECT_EQ(surface->knot_v(3, value), 1);
-  EXPECT_EQ(value, 1.0);
-  EXPECT_EQ(surface->set_control_point(3, 0, giPoint3(1, 2, 3)), 0);
-  EXPECT_EQ(surface->set_control_point(2, 1, giPoint3(1, 2, 3)), 1);
-  EXPECT_EQ(surface->set_weight(0, 2, 1.0), 0);
-  EXPECT_EQ(surface->set_weight(2, 1, 0.5), 1);
-  EXPECT_EQ(surface->weight(2, 1, value), 1);
-  EXPECT_EQ(value, 0.5);
-  EXPECT_EQ(surface->set_parametric_limits_u(1.0, 0.0), 0);
-  EXPECT_EQ(surface->set_parametric_limits_v(std::nan(""), 1.0), 0);
-  EXPECT_EQ(surface->set_parametric_limits_v(0.5, 0.5), 1);
-  surface->set_rational_flag(1);
-  surface->set_closed_flag_v(5);
-  surface->set_periodic_flag_u(-1);
-  EXPECT_EQ(written(*surface)[0].substr(0, 22), "128,2,1,1,1,0,1,0,1,0,");
-}
-
-TEST_F(TrimmedSetters, TrimmedSurfaces) {
-  auto* line = new igs110;
-  auto* offset = new igs140;
-  EXPECT_EQ(offset->set_basis_surface(igsObjectPtr()), 0);
-  EXPECT_EQ(offset->set_basis_surface(line), 1); // the kind is the check's to judge
-  EXPECT_EQ(offset->set_offset_indicator(giPoint3()), 0);
-
-  igsModelSpaceCurve record;
-  EXPECT_EQ(record.set_number_of_parameter_curves(-1), 0);
-  EXPECT_EQ(record.set_number_of_parameter_curves(0), 1);
-  EXPECT_EQ(record.number_of_parameter_curves(), 0);
-  record.set_model_space_curve(line);
-  EXPECT_EQ(record.valid(), 0); // no sense yet
-  record.set_reversal_needed(2);
-  EXPECT_EQ(record.valid(), 1);
-  EXPECT_EQ(record.set_parameter_curve(-1, line), 0);
-  EXPECT_EQ(record.set_parameter_curve(1, line), 1);
-  EXPECT_EQ(record.valid(), 0); // a null parameter curve at 0
-  auto* boundary = new igs141;
-  EXPECT_EQ(boundary->set_model_space_curve(0, &record), 0);
-  record.set_parameter_curve(0, line);
-  auto* owned = new igsModelSpaceCurve(std::move(record));
-  EXPECT_EQ(boundary->set_model_space_curve(-1, owned), 0);
-  ASSERT_EQ(boundary->set_model_space_curve(1, owned), 1);
-  igsModelSpaceCurve* found = nullptr;
-  EXPECT_EQ(boundary->model_space_curve(0, &found), 1);
-  EXPECT_EQ(found, nullptr); // the place before it stays empty
-  EXPECT_EQ(boundary->model_space_curve(1, &found), 1);
-  EXPECT_EQ(found, owned);
-  EXPECT_EQ(boundary->model_space_curve(2, &found), 0);
-  EXPECT_EQ(written(*boundary), records({"141,0,0,0,2,0,0,0,1,2,2,1,1;"}));
-
-  auto* curve = new igs142;
-  EXPECT_EQ(curve->directory_entry().status_flags().entity_use_value(), 5);
-  auto* trimmed = new igs144;
-  igsObjectPtrcoDynArr inner;
-  inner.append(igsObjectPtr(curve));
-  inner.append(igsObjectPtr());
-  inner.append(igsObjectPtr(curve));
-  EXPECT_EQ(trimmed->set_inner_boundaries(inner), 0);
-  EXPECT_EQ(trimmed->number_of_inner_boundaries(), 3);
-  igsObjectPtr member;
-  EXPECT_EQ(trimmed->inner_boundary(1, member), 1);
-  EXPECT_FALSE(member);
-  EXPECT_EQ(trimmed->set_inner_boundary(-1, curve), 0);
-  EXPECT_EQ(trimmed->set_outer_boundary(igsObjectPtr()), 0);
 }
 
 } // namespace
