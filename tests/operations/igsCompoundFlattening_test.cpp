@@ -29,24 +29,26 @@ std::unique_ptr<igsFile> read(Records const& records) {
   return file;
 }
 
-// A group of a line and a solid of one shell of three faces, the second reversed.
-Records const solid = {{402, 7, "402,2,3,5;"}, {110, 0, "110,0.,0.,0.,1.,0.,0.;"},
-                       {186, 0, "186,7,1,0;"}, {514, 1, "514,3,9,1,11,0,13,1;"},
-                       {510, 1, "510,0,0,0;"}, {510, 1, "510,0,0,0;"},
+// A group of a line and a solid of a shell of three faces, the second reversed, and a void
+// shell of one face.
+Records const solid = {{402, 7, "402,2,3,5;"},      {110, 0, "110,0.,0.,0.,1.,0.,0.;"},
+                       {186, 0, "186,7,1,1,15,1;"}, {514, 1, "514,3,9,1,11,0,13,1;"},
+                       {510, 1, "510,0,0,0;"},      {510, 1, "510,0,0,0;"},
+                       {510, 1, "510,0,0,0;"},      {514, 1, "514,1,17,1;"},
                        {510, 1, "510,0,0,0;"}};
 
 TEST(CompoundFlattening, ASolidGivesWayToItsFacesWhichLearnTheirSolidAndSide) {
   auto file = read(solid);
   compound(1).explode_solids();
-  EXPECT_EQ(members(1), (std::vector<int>{3, 9, 11, 13}));
-  for (int face : {9, 11, 13}) {
+  EXPECT_EQ(members(1), (std::vector<int>{3, 9, 11, 13, 17}));
+  for (int face : {9, 11, 13, 17}) {
     auto const& f = static_cast<igs510 const&>(*igsObjectPtr(face));
     EXPECT_EQ(f.solid_id(), 5);
     EXPECT_EQ(f.orientation(), face == 11 ? 0 : 1);
   }
   // Without solids nothing changes.
   compound(1).explode_solids();
-  EXPECT_EQ(members(1), (std::vector<int>{3, 9, 11, 13}));
+  EXPECT_EQ(members(1), (std::vector<int>{3, 9, 11, 13, 17}));
 }
 
 TEST(CompoundFlattening, CurvesOnSurfacesAreCountedThroughGroupsAndSubfigures) {
