@@ -8,7 +8,7 @@ using namespace igs_family_test;
 namespace {
 
 std::string const lowest = "-1.7976931348623157D308"; // the unset double, spelled out
-std::string const use_5 = "00000500";                  // the entity use of a curve on a surface
+std::string const use_5 = "00000500";                 // the entity use of a curve on a surface
 
 // A bilinear B-spline surface of 2 by 2 control points on the unit square: its flags, knots
 // (U then V), weights and limits as given.
@@ -82,8 +82,9 @@ Damage const damages[] = {
      "",
      bilinear("0,0,0,0,0")},
     {"a knot a little below the one before it is lifted; one far below stays",
-     {{128, 0, "128,2,1,1,1,0,0,1,0,0,0.,0.,1.,0.9999999999,2.,0.,0.,1.,0.5,1.,1.,1.,1.,1.,1.,"
-               "0.,0.,0.,1.,0.,0.,2.,0.,0.,0.,1.,0.,1.,1.,0.,2.,1.,0.,0.,0.5,0.,1.;"}},
+     {{128, 0,
+       "128,2,1,1,1,0,0,1,0,0,0.,0.,1.,0.9999999999,2.,0.,0.,1.,0.5,1.,1.,1.,1.,1.,1.,"
+       "0.,0.,0.,1.,0.,0.,2.,0.,0.,0.,1.,0.,1.,1.,0.,2.,1.,0.,0.,0.5,0.,1.;"}},
      {"@1 igs128KnotUOutOfSequence(index=3,knot=1,last=1)",
       "@1 igs128KnotVOutOfSequence(index=3,knot=0.5,last=1)", "@1 igs128UKnotsTooClose"},
      {"@1 igs128KnotVOutOfSequence(index=3,knot=0.5,last=1)"}},
@@ -108,13 +109,13 @@ Damage const damages[] = {
            "@3 igs128UnsetWeight(u_index=1,v_index=0)"}),
     // The end in U comes to the empty range's end, which the check still refuses.
     {"a direction without a range, an unset knot, an unset point and unset limits",
-     {{128, 0, "128,1,1,1,1,0,0,1,0,0,0.,0.,0.,0.,0.,0.,1.," + lowest +
-                   ",1.,1.,1.,1.,0.,0.,0.,1.,0.,0.,0.,1.,0.," + lowest + ",1.,0.,0.,1.,0.," +
-                   lowest + ";"}},
+     {{128, 0,
+       "128,1,1,1,1,0,0,1,0,0,0.,0.,0.,0.,0.,0.,1.," + lowest +
+           ",1.,1.,1.,1.,0.,0.,0.,1.,0.,0.,0.,1.,0.," + lowest + ",1.,0.,0.,1.,0.," + lowest +
+           ";"}},
      {"@1 igs128KnotVOutOfSequence(index=3,knot=-1.79769e+308,last=1)",
       "@1 igs128MaxParamUOutOfRange(value=1,lo=0,hi=0)",
-      "@1 igs128MaxParamVOutOfRange(value=-1.79769e+308,lo=0,hi=1)",
-      "@1 igs128NoUParamRange(lo=0)",
+      "@1 igs128MaxParamVOutOfRange(value=-1.79769e+308,lo=0,hi=1)", "@1 igs128NoUParamRange(lo=0)",
       "@1 igs128TrimParamsVOutOfSequence(start=0,end=-1.79769e+308)",
       "@1 igs128UnsetControlPoint(u_index=1,v_index=1)", "@1 igs128UnsetKnotV(index=3)",
       "@1 igs128UnsetTrimmingParams"},
@@ -161,8 +162,9 @@ Damage const damages[] = {
       "@1 igs141UnexpectedParamCurves(curve=0)"}},
     {"a boundary on a line, whose curves are cleared by their own repairs",
      {{141, 0, "141,1,0,3,1,5,1,1,5;"}, line, off_centre_arc},
-     {"@1 igs141InvalidModelSpaceCurveData(curve=0)", "@1 igs141InvalidParameterCurveData(curve=0,parameter=0)",
-      "@1 igs141InvalidSurfaceType", "@5 igs100InconsistRad"},
+     {"@1 igs141InvalidModelSpaceCurveData(curve=0)",
+      "@1 igs141InvalidParameterCurveData(curve=0,parameter=0)", "@1 igs141InvalidSurfaceType",
+      "@5 igs100InconsistRad"},
      {"@1 igs141InvalidSurfaceType"}},
 
     // Curves on surfaces.
@@ -190,10 +192,15 @@ Damage const damages[] = {
           {"@1 igs143NoBoundaries", "@1 igs143NullSurfacePtr"}),
     stays("a bounded surface of a representation out of range, a missing boundary, a curve on a "
           "surface as boundary and a boundary on another surface",
-          {{143, 0, "143,3,3,3,0,5,7;"}, surface, on_surface("0,3,9,0,1"),
-           {141, 0, "141,0,0,11,1,9,1,0;"}, line, surface},
-          {"@1 igs143InvalidBoundaryType(index=1)", "@1 igs143InvalidSurfaceRepresentation(value=3)",
-           "@1 igs143NullBoundaryPtr(index=0)", "@1 igs143SurfacePointerMismatch(index=2)"}),
+          {{143, 0, "143,3,3,3,0,5,7;"},
+           surface,
+           on_surface("0,3,9,0,1"),
+           {141, 0, "141,0,0,11,1,9,1,0;"},
+           line,
+           surface},
+          {"@1 igs143InvalidBoundaryType(index=1)",
+           "@1 igs143InvalidSurfaceRepresentation(value=3)", "@1 igs143NullBoundaryPtr(index=0)",
+           "@1 igs143SurfacePointerMismatch(index=2)"}),
     {"a bounded surface whose boundary's own repair clears it",
      {{143, 0, "143,0,5,1,3;"}, {141, 0, "141,0,7,5,1,7,1,0;"}, surface, line},
      {"@1 igs143InvalidBoundaryData(index=0)", "@3 igs141InvalidPreferrenceFlag(value=7)"},
@@ -213,18 +220,29 @@ Damage const damages[] = {
      {"@1 igs144BadNumInnerBounds(count=-1)"},
      no_data_1},
     {"a trimmed surface gets back the surface that its inner boundaries agree on",
-     {{144, 0, "144,0,1,2,0,5,7;"}, surface, on_surface("0,3,9,0,1"), on_surface("0,3,9,0,1"), line},
+     {{144, 0, "144,0,1,2,0,5,7;"},
+      surface,
+      on_surface("0,3,9,0,1"),
+      on_surface("0,3,9,0,1"),
+      line},
      {"@1 igs144NullSurfacePtr"},
      {},
      "",
      "144,3,1,2,0,5,7;"},
     stays("a trimmed surface whose inner boundaries include a line gets no surface back",
-          {{144, 0, "144,0,1,3,0,5,7,9;"}, surface, on_surface("0,3,9,0,1"),
-           on_surface("0,3,9,0,1"), line},
+          {{144, 0, "144,0,1,3,0,5,7,9;"},
+           surface,
+           on_surface("0,3,9,0,1"),
+           on_surface("0,3,9,0,1"),
+           line},
           {"@1 igs142InvalidInnerBoundType(index=2)", "@1 igs144NullSurfacePtr"}),
     {"two missing inner boundaries of five go, the others closing up",
-     {{144, 0, "144,3,0,5,0,0,5,0,7,9;"}, surface, on_surface("0,3,11,0,1"),
-      on_surface("0,3,11,0,1"), on_surface("0,3,11,0,1"), line},
+     {{144, 0, "144,3,0,5,0,0,5,0,7,9;"},
+      surface,
+      on_surface("0,3,11,0,1"),
+      on_surface("0,3,11,0,1"),
+      on_surface("0,3,11,0,1"),
+      line},
      {"@1 igs144NullInnerBoundPtr(index=0)", "@1 igs144NullInnerBoundPtr(index=2)"},
      {},
      "Warning : 2 invalid inner boundary(s) were reported for entity ig1.\nThe invalid "
@@ -233,8 +251,12 @@ Damage const damages[] = {
      "144,3,0,3,0,5,7,9;"},
     stays("a trimmed surface of a flag out of range, a boundary as its outer boundary and an "
           "inner one on another surface",
-          {{144, 0, "144,3,2,1,5,7;"}, surface, {141, 0, "141,0,0,3,1,9,1,0;"},
-           on_surface("0,11,9,0,1"), line, surface},
+          {{144, 0, "144,3,2,1,5,7;"},
+           surface,
+           {141, 0, "141,0,0,3,1,9,1,0;"},
+           on_surface("0,11,9,0,1"),
+           line,
+           surface},
           {"@1 igs144InnerBoundSurfaceMismatch(index=0)", "@1 igs144InvalidOuterBoundType",
            "@1 igs144InvalidOuterBoundaryFlag(value=2)"}),
     {"a trimmed surface whose boundaries' own repairs clear them",
