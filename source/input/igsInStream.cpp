@@ -26,8 +26,6 @@ void igsInStream::collect_errors() {
   }
   configure_for_decode(&m_real);
   stamp_errors(m_errors);
-  m_code_bits = 0;
-  for (igsIOError const& e : m_errors) m_code_bits |= igsIOCodeList::bit(e.error_type());
 }
 
 igsIOErrorcoDynArr const& igsInStream::errors() {
@@ -40,6 +38,5 @@ int igsInStream::error() {
 }
 
 int igsInStream::error_type(igsIOErrorCode code) {
-  if (!m_collected) collect_errors();
-  return (m_code_bits & igsIOCodeList::bit(code)) != 0;
+  return igs_has_io_error(errors(), code);
 }

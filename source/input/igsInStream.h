@@ -62,7 +62,6 @@ class igsInStream : public igsInEngine {
   }
 
   igsIOErrorcoDynArr m_errors;
-  unsigned m_code_bits = 0; // one bit for each code of m_errors
   int m_collected = 0;
   igsIntDecoder m_int;
   igsDoubleDecoder m_real;

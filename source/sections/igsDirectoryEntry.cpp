@@ -70,12 +70,14 @@ constexpr Column layout[] = {
     number(8, &Fields::entity_subscript),
 };
 
-constexpr bool lines_are_full() {
+// The columns that the fields first to last - 1 of the layout take together.
+constexpr int width_of(int first, int last) {
   int columns = 0;
-  for (Column const& column : layout) columns += column.width;
-  return columns == 2 * 72;
+  for (int i = first; i < last; ++i) columns += layout[i].width;
+  return columns;
 }
-static_assert(lines_are_full(), "the D line layout fills two lines of 72 columns");
+static_assert(width_of(0, std::size(layout)) == 2 * 72,
+              "the D line layout fills two lines of 72 columns");
 
 constexpr int label_field_width = 24; // the reserved columns and the label
 
@@ -150,9 +152,7 @@ int blank_text(char const* text, int width, utString& value) {
 
 // Where column C of the layout starts within its line.
 constexpr int line_offset(int index) {
-  int offset = 0;
-  for (int i = 0; i < index; ++i) offset += layout[i].width;
-  return offset % 72;
+  return width_of(0, index) % 72;
 }
 
 // The four status numbers of two columns each, when their eight columns are blanks and then
@@ -207,10 +207,8 @@ struct Run {
   int (*read)(char const* line, Fields& fields);
 };
 template <int First, int Last> constexpr Run run() {
-  int width = 0;
-  for (int i = First; i < Last; ++i) width += layout[i].width;
   static_assert(line_offset(First) == 0, "a run starts its line");
-  return {layout + First, layout + Last, width, plain_columns<First, Last>};
+  return {layout + First, layout + Last, width_of(First, Last), plain_columns<First, Last>};
 }
 constexpr Run runs[] = {run<0, 12>(), run<12, 19>()};
 
@@ -236,12 +234,6 @@ Column const* read_plain_fields(igsInStream& in, Column const* c, Column const* 
   }
   int used = 0;
   for (; c != end && used + c->width <= room; ++c) {
-    if (c->kind == Kind::status && end - c >= 4 && used + 8 <= room &&
-        status_numbers(text + used, c, fields)) {
-      c += 3;
-      used += 8;
-      continue;
-    }
     if (c->number ? !plain_number(text + used, c->width, fields.*c->number)
                   : !blank_text(text + used, c->width, fields.*c->text))
       break;
