@@ -13,12 +13,13 @@ igsFile::igsFile() : m_forward_references(4, 50) {
   igsObjectSystem::file_created(this);
 }
 
+// The file leaves the object system last: its entities find it through their slot there.
 igsFile::~igsFile() {
-  igsObjectSystem::file_deleted(this);
   remove_forward_references();
   m_closing = 1;
   for (int location = 0; location < m_table.size(); ++location)
     if (igsObjectManager* manager = slot(location)) delete manager->object();
+  igsObjectSystem::file_deleted(this);
 }
 
 void igsFile::object_created(igsObject* object) {

@@ -121,6 +121,7 @@ class igsFile {
   friend class igsObjectSystem;
   friend class igsObject;
   friend class igsObjectPtr;
+  friend class igsObjectManager;
   friend class igsFileIT;
   friend class igsFileTypeIT;
 

@@ -1,11 +1,17 @@
 #include "core/igsObjectManager.h"
 
+#include "core/igsFile.h"
 #include "core/igsObjectPtr.h"
 
 #include <new>
 
 igsObjectManager::~igsObjectManager() {
   drop_references();
+}
+
+void igsObjectManager::set_file(igsFile* file) {
+  int slot = file ? file->system_location() : -1;
+  m_file_slot = slot >= 0 ? static_cast<std::uint32_t>(slot) + 1 : 0;
 }
 
 void igsObjectManager::drop_references() {

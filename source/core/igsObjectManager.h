@@ -5,6 +5,7 @@
 // move to the entity when it comes.
 #pragma once
 
+#include "core/igsObjectSystem.h"
 #include "support/coNames.h"
 
 #include <cstdint>
@@ -39,8 +40,11 @@ class igsObjectManager {
     return reinterpret_cast<igsObject*>(entity);
   }
   igsDirectoryEntry* directory_entry() const;
-  igsFile* file() const { return m_file; }
-  void set_file(igsFile* file) { m_file = file; }
+  igsFile* file() const {
+    return m_file_slot ? igsObjectSystem::file_in_slot(m_file_slot - 1) : nullptr;
+  }
+  // The file must be open in the object system; null, or a file that is not, leaves none.
+  void set_file(igsFile* file);
   int system_location() const { return m_system_location; }
   void set_system_location(int location) { m_system_location = location; }
   int visited() const { return m_visited; }
@@ -86,16 +90,16 @@ class igsObjectManager {
   void move_pointer(int location, igsObjectPtr* ptr);
   int grow();
 
-  // The fields of eight bytes first, then the location, then the flags in one byte each: 24
-  // bytes with no padding, as a file holds one manager per entity. What only a grown list
-  // needs stands in the list.
-  igsFile* m_file = nullptr;
+  // 16 bytes, as a file holds one manager per entity: the reference word, the location, and
+  // one word of the file's slot in the object system with the flags. What only a grown list
+  // needs stands in the list. 28 bits of slot allow more open files than memory can hold.
   Slot m_word = 0; // the one reference, or 0; once listed, the address of the list
   int m_system_location = -1;
-  std::uint8_t m_visited = 0;
-  std::uint8_t m_validated = 0;
-  std::uint8_t m_is_entity = 0; // part of an igsObject
-  std::uint8_t m_listed = 0;
+  std::uint32_t m_file_slot : 28 = 0; // the slot plus 1, or 0 for no file
+  std::uint32_t m_visited : 1 = 0;
+  std::uint32_t m_validated : 1 = 0;
+  std::uint32_t m_is_entity : 1 = 0; // part of an igsObject
+  std::uint32_t m_listed : 1 = 0;
 };
 
 // Walks the live references of one manager.

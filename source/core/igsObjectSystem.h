@@ -9,6 +9,8 @@
 
 #include "support/coNames.h"
 
+#include <utility>
+
 class igsObjectError;
 class igsStructureError;
 class igsGlobalError;
@@ -30,6 +32,10 @@ class igsObjectSystem {
   // Replaces the array's contents by the open files in slot order.
   static void get_all_files(igsFilecoDynArrPtrcoPtrcoDynArr& files);
   static int num_files() { return m_num_files; }
+  // The file open in the slot, or null; the slot must be one that a file was given.
+  static igsFile* file_in_slot(int slot) {
+    return m_file_list ? std::as_const(*m_file_list)[slot] : nullptr;
+  }
 
   // Open and close a walk. The outermost start clears the visit flags of the current file.
   static void reentrant_start();
