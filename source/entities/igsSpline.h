@@ -14,6 +14,35 @@
 // first (`ended` is then 1) or the store could not grow.
 int igs_read_values(igsInStream& in, doublecoDynArr& values, int first, int count, int& ended);
 
+// From `first` on, a spline's store holds the weights of its control points, then their X, Y
+// and Z. Weights that are all exactly 1, as a polynomial spline's are, are not kept: the store
+// is then `points` values shorter and the coordinates start at `first`. Setting a weight
+// other than 1 brings them back.
+inline bool igs_unit_weights(doublecoDynArr const& values, int first, int points) {
+  return values.size() == first + 3 * points;
+}
+inline int igs_first_coordinate(doublecoDynArr const& values, int first, int points) {
+  return igs_unit_weights(values, first, points) ? first : first + points;
+}
+inline double igs_weight(doublecoDynArr const& values, int first, int points, int index) {
+  return igs_unit_weights(values, first, points) ? 1.0 : values[first + index];
+}
+// 0 when the weights could not be brought back.
+int igs_set_weight(doublecoDynArr& values, int first, int points, int index, double value);
+// Reads the weights, then the coordinates, as igs_read_values does; the store then holds
+// exactly the values up to the last coordinate.
+int igs_read_weighted_points(igsInStream& in, doublecoDynArr& values, int first, int points,
+                             int& ended);
+// Writes the weights, then the coordinates.
+void igs_write_weighted_points(igsOutStream& out, doublecoDynArr const& values, int first,
+                               int points);
+// The room to make before reading a store of `knots` knots and `points` control points: as
+// for weights that are not kept, and not above igs_max_initial_reserve.
+inline int igs_reading_room(long long knots, long long points) {
+  long long room = knots + 3 * points;
+  return room < igs_max_initial_reserve ? static_cast<int>(room) : igs_max_initial_reserve;
+}
+
 // The number, then its word: `truth` is the value that means true.
 void igs_print_flag(utOstream& out, char const* label, int flag, int truth);
 // The heading, then the knots one tab level deeper, one line for each run of equal knots,

@@ -45,14 +45,13 @@ int igs126::set_knot(int index, double value) {
 
 int igs126::weight(int index, double& value) const {
   if (!index_in(index, m_size)) return 0;
-  value = weights()[index];
+  value = weight_at(index);
   return 1;
 }
 
 int igs126::set_weight(int index, double value) {
-  if (!index_in(index, m_size)) return 0;
-  m_values[number_of_knots() + index] = value;
-  return 1;
+  return index_in(index, m_size) &&
+         igs_set_weight(m_values, number_of_knots(), m_size, index, value);
 }
 
 int igs126::control_point(int index, giPoint3& point) const {
@@ -64,7 +63,7 @@ int igs126::control_point(int index, giPoint3& point) const {
 
 int igs126::set_control_point(int index, giPoint3 const& point) {
   if (!index_in(index, m_size)) return 0;
-  double* p = m_values.data() + number_of_knots() + m_size + 3 * index;
+  double* p = m_values.data() + first_coordinate() + 3 * index;
   p[0] = point.x();
   p[1] = point.y();
   p[2] = point.z();
@@ -108,8 +107,7 @@ int igs126::read_curve_size(igsInStream& in) {
     raise_error<igs126BadSumIndex>(k);
     return 0;
   }
-  int room = count < igs_max_initial_reserve ? static_cast<int>(count) : igs_max_initial_reserve;
-  return size_curve(m + 1, k + 1, room);
+  return size_curve(m + 1, k + 1, igs_reading_room(m + k + 2LL, k + 1LL));
 }
 
 int igs126::read_flags(igsInStream& in) {
@@ -117,9 +115,7 @@ int igs126::read_flags(igsInStream& in) {
   return 1;
 }
 
-int igs126::read_values(igsInStream& in, int first, int count) {
-  int ended = 0;
-  if (igs_read_values(in, m_values, first, count, ended)) return 1;
+int igs126::lose_size(int ended) {
   if (ended) raise_error<igs126BadSumIndex>(m_size - 1);
   m_values.clear(1);
   m_size = 0;
@@ -127,15 +123,14 @@ int igs126::read_values(igsInStream& in, int first, int count) {
 }
 
 int igs126::read_knots(igsInStream& in) {
-  return read_values(in, 0, number_of_knots());
+  int ended = 0;
+  return igs_read_values(in, m_values, 0, number_of_knots(), ended) || lose_size(ended);
 }
 
-// All weights, then the control points: the order of the store. A store that grew while
-// reading gives back the room it did not fill.
 int igs126::read_homogenous_control_points(igsInStream& in) {
-  if (!read_values(in, number_of_knots(), 4 * m_size)) return 0;
-  if (m_values.size() > igs_max_initial_reserve) m_values.shrink(m_values.size(), 1);
-  return 1;
+  int ended = 0;
+  return igs_read_weighted_points(in, m_values, number_of_knots(), m_size, ended) ||
+         lose_size(ended);
 }
 
 int igs126::read_parametric_limits(igsInStream& in) {
@@ -157,7 +152,7 @@ void igs126::write_pd_data(igsOutStream& out) {
   out.push_double_format(width, precision);
   for (int i = 0; i < knots; ++i) out.write_double(m_values[i]);
   out.pop_double_format();
-  for (int i = knots; i < m_values.size(); ++i) out.write_double(m_values[i]);
+  igs_write_weighted_points(out, m_values, knots, m_size);
   out.push_double_format(width, precision);
   igs_write_fields(out, m_start, m_end);
   out.pop_double_format();
@@ -192,7 +187,7 @@ void igs126::print_control_points(utOstream& out) const {
   igs_print_list(out, "ControlPoints = {", m_size, [this](utOstream& o, int i) {
     giPoint3 point;
     control_point(i, point);
-    o << point << "," << weights()[i];
+    o << point << "," << weight_at(i);
   });
 }
 
@@ -238,23 +233,22 @@ void igs126::check_homogenous_control_points() const {
     if (point.invalid()) raise_error<igs126UnsetControlPoint>(i);
   }
   if (!m_size) return;
-  double const* w = weights();
   double tolerance = kvnTolCoincWeights.value();
   bool all_equal = true, near_equal = true;
   for (int i = 0; i < m_size; ++i) {
-    all_equal = all_equal && w[i] == w[0];
-    near_equal = near_equal && std::fabs(w[i] - w[0]) <= tolerance;
+    all_equal = all_equal && weight_at(i) == weight_at(0);
+    near_equal = near_equal && std::fabs(weight_at(i) - weight_at(0)) <= tolerance;
   }
   bool skipped = near_equal && (all_equal || m_rational != 0);
   if (!skipped) {
     double minimum = kvnTolMinValue.value();
     for (int i = 0; i < m_size; ++i) {
-      if (std::fabs(w[i]) < minimum)
+      if (std::fabs(weight_at(i)) < minimum)
         raise_error<igs126ZeroWeight>(i);
-      else if (igs_unset(w[i]))
+      else if (igs_unset(weight_at(i)))
         raise_error<igs126UnsetWeight>(i);
-      else if (w[i] < 0.0)
-        raise_error<igs126NegativeWeight>(i, w[i]);
+      else if (weight_at(i) < 0.0)
+        raise_error<igs126NegativeWeight>(i, weight_at(i));
     }
   }
   if ((all_equal && m_rational == 0) || (!near_equal && m_rational == 1))

@@ -71,12 +71,15 @@ class igs126 : public igsSplineEntity<igsCurve> {
  private:
   // Gives the curve its order and size with room for `room` values, all unset.
   int size_curve(int order, int size, int room);
-  // Reads `count` values into the store from `first` on; a record that ends first has a count
-  // it does not hold, and the curve then has no size again.
-  int read_values(igsInStream& in, int first, int count);
+  // A record that ends before its values do (`ended`) has a count it does not hold: the curve
+  // has no size again. Gives 0.
+  int lose_size(int ended);
   int index_in(int index, int count) const { return index >= 0 && index < count; }
-  double const* weights() const { return m_values.data() + number_of_knots(); }
-  double const* coordinates() const { return weights() + m_size; }
+  double weight_at(int index) const {
+    return igs_weight(m_values, number_of_knots(), m_size, index);
+  }
+  int first_coordinate() const { return igs_first_coordinate(m_values, number_of_knots(), m_size); }
+  double const* coordinates() const { return m_values.data() + first_coordinate(); }
 
   int m_planar = 0;
   int m_closed = 0;
@@ -88,6 +91,6 @@ class igs126 : public igsSplineEntity<igsCurve> {
   int m_order = igs_unset_int;
   int m_size = 0;
   // The knots, the weights, then X, Y, Z of each control point: the order of the parameters,
-  // in one store, made once by set_order_size or reading.
+  // in one store, made once by set_order_size or reading. Weights all 1 are not kept.
   doublecoDynArr m_values;
 };

@@ -55,7 +55,7 @@ int igs128::control_point(int i, int j, giPoint3& point) const {
 int igs128::set_control_point(int i, int j, giPoint3 const& point) {
   int at = index_of(i, j);
   if (at < 0) return 0;
-  double* p = m_values.data() + first_weight() + points() + 3 * at;
+  double* p = m_values.data() + first_coordinate() + 3 * at;
   p[0] = point.x();
   p[1] = point.y();
   p[2] = point.z();
@@ -65,15 +65,13 @@ int igs128::set_control_point(int i, int j, giPoint3 const& point) {
 int igs128::weight(int i, int j, double& value) const {
   int at = index_of(i, j);
   if (at < 0) return 0;
-  value = weights()[at];
+  value = weight_at(at);
   return 1;
 }
 
 int igs128::set_weight(int i, int j, double value) {
   int at = index_of(i, j);
-  if (at < 0) return 0;
-  m_values[first_weight() + at] = value;
-  return 1;
+  return at >= 0 && igs_set_weight(m_values, first_weight(), points(), at, value);
 }
 
 int igs128::set_parametric_limits(Direction d, double start, double end) {
@@ -104,7 +102,7 @@ int igs128::read_surface_size(igsInStream& in) {
   if (k2 < m2) return raise_error<igs128VSumIndexLessThanVDegree>(k2, m2), 0;
   long long count = number_of_values(m1 + 1LL, m2 + 1LL, k1 + 1LL, k2 + 1LL);
   if (count > INT_MAX) return raise_error<igs128BadUSumIndex>(k1), 0;
-  int room = count < igs_max_initial_reserve ? static_cast<int>(count) : igs_max_initial_reserve;
+  int room = igs_reading_room(k1 + m1 + k2 + m2 + 4LL, (k1 + 1LL) * (k2 + 1LL));
   return size_surface(m1 + 1, m2 + 1, k1 + 1, k2 + 1, room);
 }
 
@@ -113,9 +111,7 @@ int igs128::read_flags(igsInStream& in) {
   return 1;
 }
 
-int igs128::read_values(igsInStream& in, int first, int count) {
-  int ended = 0;
-  if (igs_read_values(in, m_values, first, count, ended)) return 1;
+int igs128::lose_size(int ended) {
   if (ended) raise_error<igs128BadUSumIndex>(m_size[U] - 1);
   m_values.clear(1);
   m_size[U] = m_size[V] = 0;
@@ -123,15 +119,14 @@ int igs128::read_values(igsInStream& in, int first, int count) {
 }
 
 int igs128::read_knot_vectors(igsInStream& in) {
-  return read_values(in, 0, first_weight());
+  int ended = 0;
+  return igs_read_values(in, m_values, 0, first_weight(), ended) || lose_size(ended);
 }
 
-// All weights, then the control points: the order of the store. A store that grew while
-// reading gives back the room it did not fill.
 int igs128::read_homogenous_control_points(igsInStream& in) {
-  if (!read_values(in, first_weight(), 4 * points())) return 0;
-  if (m_values.size() > igs_max_initial_reserve) m_values.shrink(m_values.size(), 1);
-  return 1;
+  int ended = 0;
+  return igs_read_weighted_points(in, m_values, first_weight(), points(), ended) ||
+         lose_size(ended);
 }
 
 int igs128::read_parametric_limits(igsInStream& in) {
@@ -150,7 +145,7 @@ void igs128::write_pd_data(igsOutStream& out) {
     igsParametricFormat parametric(out);
     for (int i = 0; i < knots; ++i) out.write_double(m_values[i]);
   }
-  for (int i = knots; i < m_values.size(); ++i) out.write_double(m_values[i]);
+  igs_write_weighted_points(out, m_values, knots, points());
   igsParametricFormat parametric(out);
   igs_write_fields(out, m_start[U], m_end[U], m_start[V], m_end[V]);
 }
@@ -190,7 +185,7 @@ void igs128::print_control_points(utOstream& out) const {
       for (int i = 0; i < m_size[U]; ++i) {
         giPoint3 point;
         control_point(i, j, point);
-        nested << "(" << i << "," << j << ") = " << point << "," << weights()[index_of(i, j)]
+        nested << "(" << i << "," << j << ") = " << point << "," << weight_at(index_of(i, j))
                << "\n";
       }
   }
@@ -250,19 +245,19 @@ void igs128::check_homogenous_control_points() const {
     if (point.invalid()) raise_error<igs128UnsetControlPoint>(at % n_u, at / n_u);
   }
   if (!n) return;
-  double const* w = weights();
+  auto w = [this](int at) { return weight_at(at); };
   double const tolerance = kvnTolCoincWeights.value();
   int at = 0;
-  while (at < n && std::fabs(w[at] - w[0]) <= tolerance) ++at;
+  while (at < n && std::fabs(w(at) - w(0)) <= tolerance) ++at;
   if (at == n) return;
   double const minimum = kvnTolMinValue.value();
   for (at = 0; at < n; ++at) {
-    if (std::fabs(w[at]) < minimum)
+    if (std::fabs(w(at)) < minimum)
       raise_error<igs128ZeroWeight>(at % n_u, at / n_u);
-    else if (igs_unset(w[at]))
+    else if (igs_unset(w(at)))
       raise_error<igs128UnsetWeight>(at % n_u, at / n_u);
-    else if (w[at] < 0.0)
-      raise_error<igs128NegativeWeight>(at % n_u, at / n_u, w[at]);
+    else if (w(at) < 0.0)
+      raise_error<igs128NegativeWeight>(at % n_u, at / n_u, w(at));
   }
   if (m_rational == 1) raise_error<igs128WeightsAndRatFlagDisaggree>();
 }

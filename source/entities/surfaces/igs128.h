@@ -94,9 +94,9 @@ class igs128 : public igsSplineEntity<igsParameterizedSurface> {
  private:
   // Gives the surface its orders and sizes with room for `room` values, all unset.
   int size_surface(int order_u, int order_v, int n_u, int n_v, int room);
-  // Reads `count` values into the store from `first` on; a record that ends first has sizes
-  // it does not hold, and the surface then has no size again.
-  int read_values(igsInStream& in, int first, int count);
+  // A record that ends before its values do (`ended`) has sizes it does not hold: the surface
+  // has no size again. Gives 0.
+  int lose_size(int ended);
   int points() const { return m_size[U] * m_size[V]; }
   int index_of(int i, int j) const {
     return i >= 0 && i < m_size[U] && j >= 0 && j < m_size[V] ? j * m_size[U] + i : -1;
@@ -104,8 +104,9 @@ class igs128 : public igsSplineEntity<igsParameterizedSurface> {
   int first_knot(Direction d) const { return d == U ? 0 : number_of_knots(U); }
   int first_weight() const { return number_of_knots(U) + number_of_knots(V); }
   double const* knots(Direction d) const { return m_values.data() + first_knot(d); }
-  double const* weights() const { return m_values.data() + first_weight(); }
-  double const* coordinates() const { return weights() + points(); }
+  double weight_at(int at) const { return igs_weight(m_values, first_weight(), points(), at); }
+  int first_coordinate() const { return igs_first_coordinate(m_values, first_weight(), points()); }
+  double const* coordinates() const { return m_values.data() + first_coordinate(); }
 
   int m_closed[2] = {0, 0};
   int m_rational = 1;
@@ -115,6 +116,7 @@ class igs128 : public igsSplineEntity<igsParameterizedSurface> {
   int m_order[2] = {igs_unset_int, igs_unset_int};
   int m_size[2] = {0, 0};
   // The knots in U, in V, the weights, then X, Y, Z of each control point, U index fastest:
-  // the order of the parameters, in one store, made once by set_order_size or reading.
+  // the order of the parameters, in one store, made once by set_order_size or reading. Weights
+  // all 1 are not kept.
   doublecoDynArr m_values;
 };

@@ -470,13 +470,25 @@ TEST_F(CurveSetters, BsplineCurves) {
   EXPECT_TRUE(curve->set_unit_normal(giVector3(0, 0, 1)));
   EXPECT_EQ(checked(*curve),
             (std::vector<std::string>{"igs126UnsetWeight(index=1)", "igs126ZeroWeight(index=2)"}));
+  // Weights all 1 as read; setting another brings them back before the control points.
+  auto* unit = new igs126;
+  ASSERT_EQ(
+      read(*unit, {"126,1,1,0,0,1,0,0.,0.,1.,1.,1.,1.,1.,2.,3.,4.,5.,6.,", "0.,1.,0.,0.,1.;"}), 1);
+  double weight = 0.0;
+  giPoint3 point;
+  EXPECT_TRUE(unit->set_weight(0, 1.0) && unit->weight(1, weight) && weight == 1.0);
+  ASSERT_TRUE(unit->set_weight(1, 0.5) && unit->weight(0, weight) && weight == 1.0);
+  EXPECT_TRUE(unit->control_point(1, point) && point == giPoint3(4, 5, 6));
+  EXPECT_EQ(written(*unit),
+            records({"126,1,1,0,0,1,0,0.,0.,1.,1.,1.,0.5,1.,2.,3.,4.,5.,6.,0.,1.,0.,", "0.,1.;"}));
 }
 
-// Order 2 and 13201 control points: 66007 values, more than the first reservation holds. The
-// record is cut behind commas into lines of up to 64 columns.
+// Order 2 and 13201 control points of weight 2: 66007 values, more than the first reservation
+// holds. The record is cut behind commas into lines of up to 64 columns.
 igs_input_test::Lines large_curve(int values_written) {
-  std::string data = "126,13200,1,0,0,1,0,";
-  for (int i = 0; i < values_written; ++i) data += std::to_string(i < 13203 ? i : 1) + ",";
+  std::string data = "126,13200,1,0,0,0,0,";
+  for (int i = 0; i < values_written; ++i)
+    data += std::to_string(i < 13203 ? i : i < 26404 ? 2 : 1) + ",";
   data += "0.,1.;";
   igs_input_test::Lines lines;
   for (size_t at = 0, end = 0; at < data.size(); at = end) {
