@@ -11,7 +11,8 @@ igsObjectManager::~igsObjectManager() {
 
 void igsObjectManager::set_file(igsFile* file) {
   int slot = file ? file->system_location() : -1;
-  m_file_slot = slot >= 0 ? static_cast<std::uint32_t>(slot) + 1 : 0;
+  bool fits = slot >= 0 && slot < (1 << 28) - 1;
+  m_file_slot = fits ? static_cast<std::uint32_t>(slot) + 1 : 0;
 }
 
 void igsObjectManager::drop_references() {

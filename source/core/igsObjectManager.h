@@ -92,7 +92,8 @@ class igsObjectManager {
 
   // 16 bytes, as a file holds one manager per entity: the reference word, the location, and
   // one word of the file's slot in the object system with the flags. What only a grown list
-  // needs stands in the list. 28 bits of slot allow more open files than memory can hold.
+  // needs stands in the list. 28 bits of slot allow more open files than memory can hold; a
+  // file past them would leave its entities out of it, not in another.
   Slot m_word = 0; // the one reference, or 0; once listed, the address of the list
   int m_system_location = -1;
   std::uint32_t m_file_slot : 28 = 0; // the slot plus 1, or 0 for no file
