@@ -8,14 +8,18 @@
 int igsObject::read(igsInStream& in, int& bad_line_numbers, int& blank_lines) {
   int read_through = read_pd_entity_type(in) && read_pd_data(in);
   // The decoders keep their codes until collected, so this one collection holds every code
-  // of the record, and the record leaves none behind for the next one.
+  // of the record, and the record leaves none behind for the next one. A record whose fields
+  // left no code but that they held values has nothing to collect.
+  int plain = in.drop_value_codes();
   if (read_through) {
-    if (in.error_type(igsIONotANumber)) raise_error<igsFileCorruptObjectData>(de_number());
-    if (in.error_type(igsIONullCharacter)) raise_error<igsFilePDNullCharacters>(de_number());
-    if (in.error_type(igsIOLineSequence)) bad_line_numbers = 1;
+    if (!plain) {
+      if (in.error_type(igsIONotANumber)) raise_error<igsFileCorruptObjectData>(de_number());
+      if (in.error_type(igsIONullCharacter)) raise_error<igsFilePDNullCharacters>(de_number());
+      if (in.error_type(igsIOLineSequence)) bad_line_numbers = 1;
+    }
     set_visited(1);
   }
-  if (in.error_type(igsIOBlankLine)) blank_lines = 1;
+  if (!plain && in.error_type(igsIOBlankLine)) blank_lines = 1;
   int sound = !in.fatal_error();
   if (in.reset()) skip_this_entity(in);
   return sound;

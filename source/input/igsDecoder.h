@@ -31,7 +31,8 @@ class igsDecoder {
   int fast_decode_avail() const { return m_fast_available; }
   // Appends the recorded codes and forgets them.
   void collect_errors(igsIOErrorcoDynArr& errors) { m_errors.collect(errors); }
-  int has_codes() const { return !m_errors.empty(); }
+  unsigned code_bits() const { return m_errors.codes(); }
+  void drop_codes() { m_errors.drop(); }
 
  protected:
   // Appends one character to the text; 0 if there was no room.

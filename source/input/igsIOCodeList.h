@@ -27,6 +27,10 @@ class igsIOCodeList {
     for (igsIOError const& e : m_codes) errors.append(e);
     if (!m_fatal) clear();
   }
+  // As collect, without giving the codes.
+  void drop() {
+    if (m_recorded && !m_fatal) clear();
+  }
   // 0 if a fatal code stands; else forgets the codes and returns 1.
   int reset() {
     if (m_fatal) return 0;
@@ -35,6 +39,8 @@ class igsIOCodeList {
   }
   int fatal() const { return m_fatal; }
   int empty() const { return !m_recorded; }
+  // The codes in the list, one bit for each.
+  unsigned codes() const { return m_recorded; }
   // The codes recorded since the current line was begun, one bit for each.
   unsigned line_codes() const { return m_line; }
 

@@ -42,8 +42,8 @@ class igsInBuffer {
   int reset();
   int fatal_error() const { return m_filler.fatal_error() || m_checker.fatal_error(); }
   void collect_errors(igsIOErrorcoDynArr& errors);
-  // Whether the filler or the checker holds a code.
-  int has_codes() const { return m_filler.has_codes() || m_checker.has_codes(); }
+  // The codes that the filler and the checker hold, one bit for each.
+  unsigned code_bits() const { return m_filler.code_bits() | m_checker.code_bits(); }
 
   // The size of the current line.
   int capacity() const { return m_line.size(); }

@@ -28,7 +28,7 @@ class igsInBufferChecker {
   igsIOCodeList& codes() { return m_errors; }
   // Appends the recorded codes; a checker without a fatal code then forgets them.
   void collect_errors(igsIOErrorcoDynArr& errors) { m_errors.collect(errors); }
-  int has_codes() const { return !m_errors.empty(); }
+  unsigned code_bits() const { return m_errors.codes(); }
   void position(igsFileSection& section, int& line) const {
     section = m_section;
     line = m_line_number;

@@ -26,7 +26,7 @@ class igsInBufferFiller {
   int get(igsInBuffer& buffer);
   // Appends the recorded codes; a filler without a fatal code then forgets them.
   void collect_errors(igsIOErrorcoDynArr& errors) { m_errors.collect(errors); }
-  int has_codes() const { return !m_errors.empty(); }
+  unsigned code_bits() const { return m_errors.codes(); }
   int fatal_error() const { return m_errors.fatal(); }
   // 0 if a fatal code is recorded; else forgets the codes and returns 1.
   int reset() { return m_errors.reset(); }

@@ -14,7 +14,11 @@ igsInStream::~igsInStream() = default;
 void igsInStream::collect_errors() {
   m_errors.shrink(0);
   m_collected = 1;
-  int buffer_codes = has_codes();
+  unsigned buffer_codes = code_bits();
+  if (!buffer_codes && !decoder_code_bits()) { // nothing to collect: the common case
+    configure_for_decode(&m_real);
+    return;
+  }
   igsDecoder* decoders[] = {&m_int, &m_string, &m_holerith, &m_real};
   for (igsDecoder* decoder : decoders) {
     if (!buffer_codes) {
@@ -35,6 +39,16 @@ igsIOErrorcoDynArr const& igsInStream::errors() {
 
 int igsInStream::error() {
   return !errors().empty();
+}
+
+int igsInStream::drop_value_codes() {
+  if (m_collected) return 0;
+  if ((code_bits() | decoder_code_bits()) & ~igsIOCodeList::bit(igsIOValuePresent)) return 0;
+  m_int.drop_codes();
+  m_string.drop_codes();
+  m_holerith.drop_codes();
+  m_real.drop_codes();
+  return 1;
 }
 
 int igsInStream::error_type(igsIOErrorCode code) {

@@ -25,6 +25,10 @@ class igsInStream : public igsInEngine {
   int error_type(igsIOErrorCode code);
   // The codes that stand after the last read, with where the cursor stood.
   igsIOErrorcoDynArr const& errors();
+  // 1 when no code other than igsIOValuePresent stands since the last collection: those are
+  // dropped, as a collection would take them, and the stream then holds no code. Else 0, and
+  // nothing changes. Nearly every record ends so, and needs no list made.
+  int drop_value_codes();
 
   using igsInEngine::collect_errors;
 
@@ -45,6 +49,9 @@ class igsInStream : public igsInEngine {
 
  protected:
   void collect_errors();
+  unsigned decoder_code_bits() const {
+    return m_int.code_bits() | m_string.code_bits() | m_holerith.code_bits() | m_real.code_bits();
+  }
 
  private:
   template <class Decoder, class Value> void read(Decoder& decoder, Value& value) {

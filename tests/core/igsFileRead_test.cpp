@@ -113,6 +113,25 @@ TEST_F(ReadTest, ASecondRecordOfAnEntityIsPassedOver) {
   EXPECT_EQ(entity<igs116>(first)->point(), giPoint3(1, 2, 3));
 }
 
+// Damage inside a record is told against its entity, and a sound record beside it leaves
+// nothing behind: a real that is no number, a NUL byte, and a blank line.
+TEST_F(ReadTest, DamageInsideARecordIsToldForItsEntity) {
+  FileText f;
+  int not_a_number = f.add(116, 0, {"116,NAN,2.,3.;"});
+  int sound = f.add(116, 0, {"116,1.,2.,3.;"});
+  int nul = f.add(116, 0, {std::string("116,4.,5.,6.\0;", 14)});
+  int blank_line = f.add(110, 0, {"110,0.,0.,0.,", "1.,1.,1.;"});
+  Lines lines = f.lines();
+  lines.insert(lines.end() - 2, "");
+  ASSERT_EQ(read(igs_input_test::join(lines)), 1);
+  EXPECT_EQ(errors(),
+            (Lines{"igsFileCorruptObjectData(de_number=" + std::to_string(not_a_number) + ")",
+                   "igsFilePDNullCharacters(de_number=" + std::to_string(nul) + ")",
+                   "igsFileBlankLine"}));
+  EXPECT_EQ(entity<igs116>(sound)->point(), giPoint3(1, 2, 3));
+  EXPECT_EQ(entity<igs110>(blank_line)->end_point(), giPoint3(1, 1, 1));
+}
+
 TEST_F(ReadTest, ReferencesBindForwardAndToNothing) {
   FileText f;
   // Display symbols: the next entity, an entity that is never made, a Null entity, and an
