@@ -13,6 +13,13 @@ igsFile::igsFile() : m_forward_references(4, 50) {
   igsObjectSystem::file_created(this);
 }
 
+// Here, beside the file's operations that call it for every entity made.
+void igsObjectManager::set_file(igsFile* file) {
+  int slot = file ? file->system_location() : -1;
+  bool fits = slot >= 0 && slot < (1 << 28) - 1;
+  m_file_slot = fits ? static_cast<std::uint32_t>(slot) + 1 : 0;
+}
+
 // The file leaves the object system last: its entities find it through their slot there.
 igsFile::~igsFile() {
   remove_forward_references();

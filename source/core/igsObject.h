@@ -111,7 +111,7 @@ class igsObject : private igsObjectManager {
   // The entity's manager, or null if the entity never joined a file (there was no memory).
   igsObjectManager* manager() const {
     igsObjectManager const* own = this;
-    return own->file() ? const_cast<igsObjectManager*>(own) : nullptr;
+    return own->m_file_slot ? const_cast<igsObjectManager*>(own) : nullptr;
   }
 
   // The file whose memory the entity deleted last had: its destructor leaves it for the

@@ -1,18 +1,11 @@
 #include "core/igsObjectManager.h"
 
-#include "core/igsFile.h"
 #include "core/igsObjectPtr.h"
 
 #include <new>
 
 igsObjectManager::~igsObjectManager() {
   drop_references();
-}
-
-void igsObjectManager::set_file(igsFile* file) {
-  int slot = file ? file->system_location() : -1;
-  bool fits = slot >= 0 && slot < (1 << 28) - 1;
-  m_file_slot = fits ? static_cast<std::uint32_t>(slot) + 1 : 0;
 }
 
 void igsObjectManager::drop_references() {
